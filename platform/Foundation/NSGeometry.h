@@ -1,0 +1,19 @@
+#pragma once
+
+// Lengths and positions on the screen, in points: pixels at scale factor 1. y grows downwards.
+using CGFloat = double;
+
+struct NSPoint {
+    CGFloat x = 0;
+    CGFloat y = 0;
+};
+
+struct NSSize {
+    CGFloat width = 0;
+    CGFloat height = 0;
+};
+
+struct NSRect {
+    NSPoint origin;
+    NSSize size;
+};
