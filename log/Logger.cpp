@@ -1,0 +1,90 @@
+#include "log/Logger.h"
+
+#include "Foundation/NSDateFormatter.h"
+#include "Foundation/NSFileManager.h"
+#include "Foundation/NSProcessInfo.h"
+
+namespace {
+
+NSDateFormatter makeFormatter()
+{
+    NSDateFormatter formatter;
+    formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
+    return formatter;
+}
+
+const std::string& timeStamp()
+{
+    static thread_local NSDateFormatter formatter = makeFormatter();
+    return formatter.stringFromDate(NSDate::clock::now());
+}
+
+char letterOf(Logger::LogLevel level)
+{
+    switch (level) {
+    case Logger::LogLevel::information:
+        return 'i';
+    case Logger::LogLevel::normal:
+        return 'n';
+    case Logger::LogLevel::warning:
+        return 'w';
+    case Logger::LogLevel::error:
+        return 'e';
+    case Logger::LogLevel::debug:
+        return 'd';
+    case Logger::LogLevel::trace:
+        return 't';
+    }
+    return 'n';
+}
+
+void replaceAll(std::string& text, const std::string& from, const std::string& to)
+{
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+}
+
+// A message on one line. A carriage return by itself does no harm and stays.
+std::string escaped(std::string message)
+{
+    replaceAll(message, "\r\n", "\\r\\n");
+    replaceAll(message, "\n", "\\n");
+    return message;
+}
+
+}
+
+Logger::Logger(const std::string& path)
+{
+    const NSFileManager& files = NSFileManager::defaultManager();
+    if (!files.fileExistsAtPath(path) && !files.createFileAtPath(path))
+        return;
+    m_file = NSFileHandle::fileHandleForWritingAtPath(path);
+}
+
+void Logger::log(const std::string& message, LogLevel level)
+{
+    const std::string entry = timeStamp() + ' '
+        + std::to_string(NSProcessInfo::processInfo().processIdentifier()) + ' ' + letterOf(level)
+        + ' ' + escaped(message) + '\n';
+
+    const std::lock_guard lock(m_mutex);
+    if (!m_file)
+        return;
+    m_file->writeData(entry);
+    m_file->synchronizeFile();
+}
+
+void Logger::close()
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_file)
+        m_file->closeFile();
+    m_file = nullptr;
+}
+
+Logger& sharedLogger()
+{
+    static auto* const logger = new Logger("/tmp/quillbarninstaller.log");
+    return *logger;
+}
