@@ -1,0 +1,105 @@
+#include "Dispatch/MainQueue.h"
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::milliseconds frame { 8 };
+
+}
+
+// What one thread that submits synchronously waits for. Shared with the queue, which may still be
+// at it when the thread has already seen it come.
+struct MainQueue::Completion {
+    std::atomic_flag isDone;
+    ShortWait wait;
+
+    void await()
+    {
+        if (wait.spinUntil([this] { return isDone.test(std::memory_order_acquire); }))
+            return;
+        isDone.wait(false, std::memory_order_acquire);
+        wait.slept();
+    }
+
+    void signal()
+    {
+        isDone.test_and_set(std::memory_order_release);
+        isDone.notify_one();
+    }
+};
+
+MainQueue::MainQueue(std::function<void()> wakeMainThread)
+    : m_wakeMainThread(std::move(wakeMainThread))
+{
+}
+
+void MainQueue::async(std::function<void()> work)
+{
+    add({ std::move(work), nullptr });
+}
+
+void MainQueue::sync(const std::function<void()>& work)
+{
+    static thread_local const auto completion = std::make_shared<Completion>();
+    completion->isDone.clear();
+    add({ [&work] { work(); }, completion });
+    completion->await();
+}
+
+void MainQueue::add(Item item)
+{
+    bool wasAwake = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_items.push_back(std::move(item));
+        m_hasItems.store(true, std::memory_order_relaxed);
+        wasAwake = std::exchange(m_isAwake, true);
+    }
+    if (!wasAwake)
+        m_wakeMainThread();
+}
+
+void MainQueue::run()
+{
+    if (std::exchange(m_hasSlept, false))
+        m_idle.slept();
+    const auto end = Clock::now() + frame;
+    do {
+        while (runNext()) {
+            if (Clock::now() < end)
+                continue;
+            m_wakeMainThread();
+            return;
+        }
+    } while (m_idle.spinUntil([this] { return m_hasItems.load(std::memory_order_relaxed); })
+        || !fallAsleep());
+}
+
+bool MainQueue::runNext()
+{
+    Item item;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_items.empty())
+            return false;
+        item = std::move(m_items.front());
+        m_items.pop_front();
+        m_hasItems.store(!m_items.empty(), std::memory_order_relaxed);
+    }
+    item.work();
+    if (item.completion)
+        item.completion->signal();
+    return true;
+}
+
+// Unless something came in the last moment.
+bool MainQueue::fallAsleep()
+{
+    const std::lock_guard lock(m_mutex);
+    m_isAwake = !m_items.empty();
+    m_hasSlept = !m_isAwake;
+    return m_hasSlept;
+}
