@@ -1,0 +1,19 @@
+#include "app/AppDelegate.h"
+
+#include "log/Logger.h"
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    // The work starts from the controller, when its view is loaded.
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    sharedLogger().log("installer exit", Logger::LogLevel::normal);
+    sharedLogger().close();
+}
+
+bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed(NSApplication&)
+{
+    return true;
+}

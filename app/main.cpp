@@ -1,0 +1,7 @@
+#include "AppKit/NSApplication.h"
+
+int main(int argc, char* argv[])
+{
+    NSApplicationMain(argc, argv);
+    return 0;
+}

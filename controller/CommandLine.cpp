@@ -1,0 +1,64 @@
+#include "controller/ViewController.h"
+
+#include "Foundation/NSProcessInfo.h"
+#include "Foundation/NSString.h"
+#include "log/Logger.h"
+
+namespace {
+
+// Without the pair of single quotes around it. A quote that carries an accent is no quote.
+std::string unquoted(const std::string& argument)
+{
+    const bool isQuoted = argument.size() >= 2 && NSString::firstCharacter(argument) == "'"
+        && NSString::lastCharacter(argument) == "'";
+    return isQuoted ? argument.substr(1, argument.size() - 2) : argument;
+}
+
+}
+
+std::string ViewController::nameOf(Mode mode)
+{
+    switch (mode) {
+    case Mode::install:
+        return "install";
+    case Mode::uninstall:
+        return "uninstall";
+    case Mode::unmount:
+        return "unmount";
+    }
+    return {};
+}
+
+std::optional<ViewController::CommandLineOption> ViewController::parseCommandLine() const
+{
+    std::optional<Mode> mode;
+    std::optional<std::string> path;
+    bool takeNext = false;
+    for (const std::string& argument : NSProcessInfo::processInfo().arguments()) {
+        const std::string text = unquoted(argument);
+        if (takeNext) {
+            path = text;
+            break;
+        }
+        if (text == "-install") {
+            mode = Mode::install;
+            takeNext = true;
+        } else if (text == "-install2") {
+            mode = Mode::unmount;
+            takeNext = true;
+        } else if (text == "-uninstall") {
+            mode = Mode::uninstall;
+            path = "";
+            break;
+        }
+    }
+    if (m_test) {
+        mode = Mode::unmount;
+        path = "/Volumes/quillbarn installer/quillbarn.app";
+    }
+    if (!mode || !path)
+        return std::nullopt;
+
+    sharedLogger().log(nameOf(*mode) + ' ' + *path, Logger::LogLevel::debug);
+    return CommandLineOption { *mode, *path };
+}

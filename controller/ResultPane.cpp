@@ -1,0 +1,78 @@
+#include "controller/ViewController.h"
+
+#include "AppKit/NSAnimationContext.h"
+#include "AppKit/NSButton.h"
+#include "AppKit/NSLayoutConstraint.h"
+#include "AppKit/NSProgressIndicator.h"
+#include "AppKit/NSScrollView.h"
+#include "AppKit/NSTextField.h"
+#include "AppKit/NSWindow.h"
+#include "log/Logger.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Within so many points of the end, a view of the text follows it.
+constexpr CGFloat nearTheEnd = 20;
+constexpr double openingDuration = 0.5; // seconds
+
+}
+
+void ViewController::showMessage(const std::string& message)
+{
+    const auto text = resultText.get();
+    const auto scrollView = resultTextScrollView.get();
+    const auto endPosition
+        = [&] { return text->frame().size.height - scrollView->contentSize().height; };
+
+    const NSPoint position = scrollView->documentView()->visibleRect().origin;
+    const CGFloat oldEnd = std::max(0.0, endPosition());
+    text->appendString(message + '\n');
+    text->sizeToFit();
+    if (std::abs(position.y - oldEnd) < nearTheEnd)
+        scrollView->documentView()->scrollPoint({ position.x, endPosition() });
+
+    sharedLogger().log(message, Logger::LogLevel::debug);
+}
+
+void ViewController::setProgress(std::int64_t index, std::int64_t count)
+{
+    progressIndicator->setDoubleValue(double(index + 1) / double(count));
+}
+
+void ViewController::showResult()
+{
+    const auto scrollView = resultTextScrollView.get();
+    resultText->setFrame(
+        { {}, { scrollView->bounds().size.width, resultText->frame().size.height } });
+    resultText->sizeToFit();
+    const CGFloat end = resultText->frame().size.height - scrollView->contentSize().height;
+    scrollView->documentView()->scrollPoint({ 0, end });
+
+    NSAnimationContext::beginGrouping();
+    NSAnimationContext::currentContext().setDuration(openingDuration);
+    resultPainViewHeightConstraint->animator().setConstant(m_resultPainViewHeight);
+    NSAnimationContext::endGrouping();
+
+    resultButton->setEnabled(true);
+}
+
+void ViewController::finish()
+{
+    if (m_test)
+        resultButton->setEnabled(true);
+    else
+        closeWindow();
+}
+
+void ViewController::closeWindow()
+{
+    view()->window()->close();
+}
+
+void ViewController::resultButtonClicked(const NSView*)
+{
+    closeWindow();
+}

@@ -1,0 +1,76 @@
+#include "controller/ViewController.h"
+
+#include "Foundation/NSFileManager.h"
+#include "Foundation/NSString.h"
+#include "log/Logger.h"
+
+namespace {
+
+// Keeps a removal inside its bundle. A listing follows links to folders, and what it lists behind
+// one may lie anywhere.
+class BundleBounds {
+public:
+    BundleBounds(const std::string& applicationDir, const std::string& bundleDir)
+        : m_top(applicationDir + bundleDir)
+        , m_realTop(NSString::stringByResolvingSymlinksInPath(applicationDir) + "/" + bundleDir)
+    {
+    }
+
+    // Throws unless `path` is the top directory, or lies in it when all links are followed.
+    void requireInside(const std::string& path);
+
+private:
+    const std::string m_top;
+    const std::string m_realTop;
+    std::string m_lastFolder; // known to be inside: entries of one folder come together
+};
+
+void BundleBounds::requireInside(const std::string& path)
+{
+    const std::string folder = path.substr(0, path.rfind('/'));
+    if (path == m_top || folder == m_lastFolder)
+        return;
+    const std::string realFolder = NSString::stringByResolvingSymlinksInPath(folder);
+    if (!(realFolder + "/").starts_with(m_realTop + "/"))
+        throw NSError("“" + path + "” couldn’t be removed because it is not in the bundle: “"
+            + folder + "” leads to “" + realFolder + "”.");
+    m_lastFolder = folder;
+}
+
+}
+
+void ViewController::removeBundle(TopDirectory topDirectory, const Progress& progress)
+{
+    const NSFileManager& fileManager = NSFileManager::defaultManager();
+    if (!fileManager.fileExistsAtPath(applicationDir + bundleDir))
+        return;
+
+    const std::vector<File> files = listBundle(applicationDir, topDirectory);
+    BundleBounds bounds(applicationDir, bundleDir);
+    for (std::size_t k = 0; k < files.size(); ++k) {
+        const File& file = files[files.size() - 1 - k];
+        const std::string path = applicationDir + file.path;
+        report("remove " + path + (file.isDirectory ? "/" : ""));
+        if (!m_test) {
+            bounds.requireInside(path);
+            NSError error;
+            if (!fileManager.removeItemAtPath(path, &error))
+                throw error;
+        }
+        if (progress)
+            progress(std::int64_t(k), std::int64_t(files.size()));
+    }
+}
+
+void ViewController::uninstallBundle()
+{
+    sharedLogger().log("uninstall bundle", Logger::LogLevel::normal);
+    try {
+        removeBundle(TopDirectory::include,
+            [this](std::int64_t index, std::int64_t count) { reportProgress(index, count); });
+    } catch (const NSError& error) {
+        reportFailure(error);
+        return;
+    }
+    reportSuccess(&ViewController::finish);
+}
