@@ -1,0 +1,36 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+// Draws and reads trees of files. Paths are bytes. What can't be done throws.
+
+// A new empty folder under /tmp, removed with all it holds when the test is over. Its path ends in "/".
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::string& path() const { return m_path; }
+    std::string operator/(std::string_view name) const { return m_path + std::string(name); }
+
+private:
+    std::string m_path;
+};
+
+// With the folders on the way to it.
+void writeFile(const std::string& path, std::string_view content = "");
+void makeFolder(const std::string& path);
+void makeLink(const std::string& path, const std::string& target);
+
+std::string readFile(const std::string& path);
+
+// Everything below a folder, by its path from there: "folder", "-> target" for a link, and the
+// content of a file.
+std::map<std::string, std::string> readTree(const std::string& folder);
+
+// Removes a folder, as far as it is there, with all it holds.
+void removeTree(const std::string& path);
