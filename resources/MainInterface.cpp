@@ -1,6 +1,7 @@
+#include "resources/MainInterface.h"
+
 #include "AppKit/NSApplication.h"
 #include "AppKit/NSButton.h"
-#include "AppKit/NSCoder.h"
 #include "AppKit/NSLayoutConstraint.h"
 #include "AppKit/NSProgressIndicator.h"
 #include "AppKit/NSScrollView.h"
@@ -13,27 +14,18 @@
 
 #include <QFontDatabase>
 
-namespace {
-
-QWidget* buildWindow()
+NSCoder openMainInterface()
 {
     auto* const window = new QWidget;
     Ui::MainInterface interface;
     interface.setupUi(window);
     interface.resultText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     window->setWindowIcon(installerIcon());
-    return window;
+    return NSCoder(window);
 }
 
-}
-
-// The connections between the interface file and the program, all of them.
-std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application)
+void connectMainInterface(const NSCoder& coder, const std::shared_ptr<ViewController>& controller)
 {
-    application.setDelegate(std::make_shared<AppDelegate>());
-
-    const NSCoder coder(buildWindow());
-    const auto controller = ViewController::initWithCoder(coder);
     controller->progressIndicator = coder.decode<NSProgressIndicator>("progressIndicator");
     controller->resultPainView = coder.decode<NSView>("resultPainView");
     controller->resultPainViewHeightConstraint = coder.decode<NSLayoutConstraint>("resultPainView");
@@ -47,8 +39,14 @@ std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application)
             target->resultButtonClicked(sender);
     });
 
-    const auto window = coder.window();
-    window->setDefaultButton(button);
-    window->setContentViewController(controller);
-    return window;
+    coder.window()->setDefaultButton(button);
+    coder.window()->setContentViewController(controller);
+}
+
+std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application)
+{
+    application.setDelegate(std::make_shared<AppDelegate>());
+    const NSCoder coder = openMainInterface();
+    connectMainInterface(coder, ViewController::initWithCoder(coder));
+    return coder.window();
 }

@@ -23,7 +23,7 @@ std::vector<std::string> readLog()
     return entries;
 }
 
-void removeLog()
+void clearLog()
 {
-    removeTree(logPath);
+    writeFile(logPath);
 }

@@ -7,4 +7,5 @@
 // entry that doesn't have the log's form stands as it is, with a "?" before it.
 std::vector<std::string> readLog();
 
-void removeLog();
+// Empties the file, which a logger may hold open.
+void clearLog();

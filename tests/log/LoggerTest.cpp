@@ -1,0 +1,111 @@
+#include "log/Logger.h"
+
+#include "support/LogFile.h"
+#include "support/Tree.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+using Level = Logger::LogLevel;
+
+class LoggerTest : public testing::Test {
+protected:
+    void TearDown() override { removeTree(path); }
+
+    const std::string path = "/tmp/quillbarninstaller.log";
+};
+
+}
+
+TEST_F(LoggerTest, writesOneLineAnEntryAndEscapesLineFeeds)
+{
+    Logger logger(path);
+    EXPECT_EQ(readFile(path), "");
+    logger.log("a\r\nb\nc\rd\\", Level::normal);
+    EXPECT_TRUE(std::regex_match(readFile(path),
+        std::regex(R"(\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d )" + std::to_string(getpid())
+            + R"( n a\\r\\nb\\nc\rd\\\n)")))
+        << readFile(path);
+
+    for (const Level level : { Level::information, Level::warning, Level::error, Level::debug,
+             Level::trace })
+        logger.log("", level);
+    const auto entries = readLog();
+    EXPECT_EQ(std::vector(entries.begin() + 1, entries.end()),
+        (std::vector<std::string> { "i ", "w ", "e ", "d ", "t " }));
+}
+
+TEST_F(LoggerTest, keepsWhatTheFileHolds)
+{
+    const std::string old = "not ended by a line feed\xFF";
+    writeFile(path, old);
+    Logger(path).log("new", Level::normal);
+    const std::string content = readFile(path);
+    EXPECT_TRUE(content.starts_with(old));
+    EXPECT_TRUE(content.ends_with(" n new\n"));
+}
+
+TEST_F(LoggerTest, runsOnWithoutAFile)
+{
+    makeFolder(path);
+    Logger(path).log("dropped", Level::normal);
+    removeTree(path);
+
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    Logger(path).log("dropped, not waited for", Level::normal);
+    removeTree(path);
+
+    Logger("/tmp/missing/folder.log").log("dropped", Level::normal);
+    EXPECT_FALSE(std::filesystem::exists("/tmp/missing"));
+}
+
+TEST_F(LoggerTest, dropsWhatComesAfterTheClose)
+{
+    Logger logger(path);
+    std::thread task([&] {
+        for (int i = 0; i < 1000; ++i)
+            logger.log("entry", Level::debug);
+    });
+    logger.log("last", Level::normal);
+    logger.close();
+    const std::string content = readFile(path);
+    task.join();
+    logger.log("late", Level::normal);
+    logger.close();
+    EXPECT_EQ(readFile(path), content);
+    EXPECT_NE(content.find(" n last\n"), std::string::npos);
+}
+
+// Each logger stands for a process: what they share is the file.
+TEST_F(LoggerTest, severalInstallersKeepEveryLineWhole)
+{
+    constexpr int installers = 4;
+    constexpr int entries = 500;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < installers; ++i) {
+        threads.emplace_back([&] {
+            Logger logger(path);
+            for (int entry = 0; entry < entries; ++entry)
+                logger.log("one of many", Level::debug);
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(readLog(), std::vector<std::string>(installers * entries, "d one of many"));
+}
+
+TEST_F(LoggerTest, theSharedLoggerIsMadeOnceByWhoeverIsFirst)
+{
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([] { sharedLogger().log("first", Level::normal); });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(readLog(), std::vector<std::string>(8, "n first"));
+}
