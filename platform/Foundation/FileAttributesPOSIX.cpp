@@ -28,7 +28,7 @@ bool isNoFailure(int number)
 // The names of all extended attributes, each followed by a NUL byte.
 std::string attributeNames(int file)
 {
-    std::array<char, 256> few;
+    std::array<char, 256> few {};
     ssize_t size = flistxattr(file, few.data(), few.size());
     if (size >= 0)
         return { few.data(), std::size_t(size) };

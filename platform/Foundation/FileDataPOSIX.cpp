@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr off_t bufferSize = 128 * 1024;
+constexpr off_t bufferSize = 0x20000; // bytes
 constexpr off_t toTheEnd = 0;
 
 bool clone(int from, const struct stat& status, int to)

@@ -14,14 +14,14 @@ QString decodedText(std::string_view bytes)
             = text[i] == QChar::ReplacementCharacter && bytes.substr(offset, 3) != "\xEF\xBF\xBD";
         if (replaced)
             text[i] = QChar(0xDC00 + static_cast<unsigned char>(bytes[offset]));
-        offset += std::size_t(encodedSize(QStringView(text).sliced(i, 1)));
+        offset += encodedSize(QStringView(text).sliced(i, 1));
     }
     return text;
 }
 
-qsizetype encodedSize(QStringView decoded)
+std::size_t encodedSize(QStringView decoded)
 {
-    qsizetype size = 0;
+    std::size_t size = 0;
     for (const QChar unit : decoded) {
         // The second half of a pair, which has four bytes, three of them counted with the first
         // half; or a byte that stands for itself.

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <string_view>
 
 // Between the bytes of a path and Qt's text. A byte that is not part of valid UTF-8 becomes a lone
@@ -10,4 +11,4 @@
 QString decodedText(std::string_view bytes);
 
 // The number of bytes from which a piece of decoded text was made.
-qsizetype encodedSize(QStringView decoded);
+std::size_t encodedSize(QStringView decoded);
