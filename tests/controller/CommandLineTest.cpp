@@ -72,8 +72,8 @@ TEST(CommandLine, onePairOfSingleQuotesComesOff)
 
 TEST(CommandLine, anythingElseIsNoOption)
 {
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>> {
-             {}, { "me" }, { "me", "-install" }, { "me", "-install2" }, { "me", "-Install", "/p/" },
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>> { {},
+             { "me" }, { "me", "-install" }, { "me", "-install2" }, { "me", "-Install", "/p/" },
              { "me", "--install", "/p/" }, { "me", "-install=/p/" }, { "me", "-installer", "/p/" },
              { "me", "'-install", "/p/" }, { "me", "-uninstall\u0301" } })
         expectOption({ arguments, {}, {} });

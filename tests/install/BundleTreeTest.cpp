@@ -47,7 +47,8 @@ TEST(BundleTree, followsLinksToFoldersAndLeavesDanglingOnesOut)
     const TemporaryFolder folder;
     writeFile(folder / "outside/file");
     makeLink(folder / "inside/folder", "../outside");
-    EXPECT_EQ(list(folder / "inside/"), (std::vector<std::string> { "p/folder/", "p/folder/file" }));
+    EXPECT_EQ(
+        list(folder / "inside/"), (std::vector<std::string> { "p/folder/", "p/folder/file" }));
 
     removeTree(folder / "inside/folder");
     makeLink(folder / "inside/file", "../outside/file");

@@ -33,8 +33,8 @@ TEST_F(LoggerTest, writesOneLineAnEntryAndEscapesLineFeeds)
             + R"( n a\\r\\nb\\nc\rd\\\n)")))
         << readFile(path);
 
-    for (const Level level : { Level::information, Level::warning, Level::error, Level::debug,
-             Level::trace })
+    for (const Level level :
+        { Level::information, Level::warning, Level::error, Level::debug, Level::trace })
         logger.log("", level);
     const auto entries = readLog();
     EXPECT_EQ(std::vector(entries.begin() + 1, entries.end()),

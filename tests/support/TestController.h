@@ -6,6 +6,7 @@
 // The controller with its inside turned out.
 class TestController : public ViewController {
 public:
+    using NSViewController::initWithCoder;
     using ViewController::applicationDir;
     using ViewController::bundleDir;
     using ViewController::closeWindow;
@@ -25,7 +26,6 @@ public:
     using ViewController::showResult;
     using ViewController::TopDirectory;
     using ViewController::uninstallBundle;
-    using NSViewController::initWithCoder;
 };
 
 // The window of the real interface file on the screen, with a controller that has started.

@@ -6,7 +6,8 @@
 
 // Draws and reads trees of files. Paths are bytes. What can't be done throws.
 
-// A new empty folder under /tmp, removed with all it holds when the test is over. Its path ends in "/".
+// A new empty folder under /tmp, removed with all it holds when the test is over. Its path ends in
+// "/".
 class TemporaryFolder {
 public:
     TemporaryFolder();

@@ -157,19 +157,19 @@ TEST(NSFileManager, aCopyThatFailsSaysWhyAndLeavesWhatWasThere)
         std::string to;
         std::string reason;
     };
-    for (const Case& c : { Case { "large", "small/new",
-                               "the volume is out of space (No space left on device)." },
-             Case { "large", "taken/../small/taken",
-                 "it doesn’t exist (No such file or directory)." },
-             Case { "small/taken", "large",
-                 "an item with the same name already exists (File exists)." },
-             Case { "missing", "new", "it doesn’t exist (No such file or directory)." },
-             Case { "small", "new", "it is a folder (Is a directory)." } }) {
+    for (const Case& c :
+        { Case { "large", "small/new", "the volume is out of space (No space left on device)." },
+            Case {
+                "large", "taken/../small/taken", "it doesn’t exist (No such file or directory)." },
+            Case { "small/taken", "large",
+                "an item with the same name already exists (File exists)." },
+            Case { "missing", "new", "it doesn’t exist (No such file or directory)." },
+            Case { "small", "new", "it is a folder (Is a directory)." } }) {
         const std::string description = copy(folder / c.from, folder / c.to);
         EXPECT_TRUE(description.ends_with(" because " + c.reason)) << description;
         EXPECT_NE(description.find("“" + folder / c.from + "”"), std::string::npos) << description;
     }
-    EXPECT_EQ(readTree(folder / "small/"),
-        (std::map<std::string, std::string> { { "taken", "mine" } }));
+    EXPECT_EQ(
+        readTree(folder / "small/"), (std::map<std::string, std::string> { { "taken", "mine" } }));
     EXPECT_FALSE(files.fileExistsAtPath(folder / "new"));
 }
