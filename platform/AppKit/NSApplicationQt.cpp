@@ -5,7 +5,23 @@
 #include <QWidget>
 
 #include <array>
+#include <cstdio>
+#include <cstdlib>
 #include <unistd.h>
+
+namespace {
+
+// Without a display Qt ends the program with advice about plugins. Better to say what is missing.
+void requireDisplay()
+{
+    for (const char* const variable : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
+        if (std::getenv(variable))
+            return;
+    std::fputs("There is no display to open a window on: DISPLAY is not set.\n", stderr);
+    std::exit(EXIT_FAILURE);
+}
+
+}
 
 NSApplication& NSApplication::sharedApplication()
 {
@@ -48,6 +64,8 @@ int NSApplication::run(const std::shared_ptr<NSWindow>& mainWindow)
 
 int NSApplicationMain(int argc, const char* const argv[])
 {
+    requireDisplay();
+
     // The arguments are the program's own: from more than its name Qt would take what it knows.
     std::string name = argc > 0 ? argv[0] : "";
     std::array<char*, 2> qtArguments { name.data(), nullptr };
