@@ -59,6 +59,15 @@ TEST(NSFileManager, existenceFollowsLinks)
         files.fileIdentityAtPath(folder / "link"), files.fileIdentityAtPath(folder / "folder"));
 }
 
+TEST(NSFileManager, creatingAFileThatIsThereKeepsIt)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "file", "content");
+    EXPECT_TRUE(files.createFileAtPath(folder / "file"));
+    EXPECT_EQ(readFile(folder / "file"), "content");
+    EXPECT_FALSE(files.createFileAtPath(folder / "missing/file"));
+}
+
 TEST(NSFileManager, createsFoldersWithThoseOnTheWayAndNamesWhatIsInTheWay)
 {
     const TemporaryFolder folder;
