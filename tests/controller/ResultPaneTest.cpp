@@ -103,6 +103,16 @@ TEST_F(ResultPane, followsTheEndFromWithinTwentyPointsOfIt)
     EXPECT_EQ(paneHeight(), openHeight);
 }
 
+TEST_F(ResultPane, theWindowShrinksAndGrowsWithThePane)
+{
+    const auto windowHeight = [&] { return controller.view()->bounds().size.height; };
+    const CGFloat whole = windowHeight();
+    controller.resultPainViewHeightConstraint->setConstant(0);
+    EXPECT_TRUE(runMainLoopUntil([&] { return windowHeight() == whole - openHeight; }));
+    controller.showResult();
+    EXPECT_TRUE(runMainLoopUntil([&] { return windowHeight() == whole; }));
+}
+
 TEST_F(ResultPane, stepsTheBar)
 {
     controller.setProgress(0, 4);
