@@ -1,0 +1,129 @@
+"""The real installer on a private machine, with a real X server and someone at its keys."""
+
+import os
+import re
+import shutil
+import subprocess
+import time
+import unittest
+
+LOG = "/tmp/quillbarninstaller.log"
+BUNDLE = "/Applications/quillbarn.app"
+SOURCE = "/tmp/source/"
+
+# Names of any bytes are text here, as Python has it for paths.
+BYTES = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
+
+
+def await_that(condition, seconds=20):
+    """Returns what the condition gives as soon as that is true."""
+    end = time.monotonic() + seconds
+    while not (result := condition()):
+        if time.monotonic() > end:
+            raise TimeoutError
+        time.sleep(0.005)
+    return result
+
+
+def write(path, content=""):
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    with open(path, "w", **BYTES) as file:
+        file.write(content)
+
+
+def read(path):
+    with open(path, **BYTES) as file:
+        return file.read()
+
+
+def read_tree(top):
+    """What is below a folder: None for a folder, the target of a link, or the content of a file."""
+    tree = {}
+    for folder, folders, files in os.walk(top):
+        for name in folders + files:
+            path = os.path.join(folder, name)
+            tree[os.path.relpath(path, top)] = (
+                "-> " + os.readlink(path) if os.path.islink(path)
+                else None if os.path.isdir(path) else read(path))
+    return tree
+
+
+def remove(path):
+    if os.path.isdir(path) and not os.path.islink(path):
+        shutil.rmtree(path)
+    elif os.path.lexists(path):
+        os.unlink(path)
+
+
+def read_log():
+    """The entries as "level message", whatever their time and process."""
+    entries = []
+    for line in read(LOG).split("\n")[:-1]:
+        match = re.fullmatch(r"\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d \d+ ([nd] .*)", line, re.DOTALL)
+        entries.append(match[1] if match else "not an entry: " + line)
+    return entries
+
+
+def mount_memory(test, folder, size):
+    """A volume of that size, mounted until the test is over."""
+    os.makedirs(folder, exist_ok=True)
+    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=" + size, "none", folder], check=True)
+    test.addCleanup(subprocess.run, ["umount", "--lazy", folder], check=True)
+
+
+class Screen:
+    """An X server in memory, with a window manager."""
+
+    def __init__(self):
+        os.makedirs("/run/user", 0o700)
+        os.environ["XDG_RUNTIME_DIR"] = "/run/user"
+        ours, servers = os.pipe()
+        subprocess.Popen(
+            ["Xvfb", "-displayfd", str(servers), "-screen", "0", "800x600x24"],
+            pass_fds=[servers], stderr=subprocess.DEVNULL)
+        os.environ["DISPLAY"] = ":" + os.read(ours, 9).decode().strip()
+        subprocess.Popen(["openbox"])
+
+    def press(self, key):
+        subprocess.run(["xdotool", "key", key], check=True)
+
+    def close_window(self):
+        """What the close control in the window's frame does."""
+        self.press("alt+F4")
+
+
+class InstallerTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        InstallerTest.screen = getattr(InstallerTest, "screen", None) or Screen()
+
+    def setUp(self):
+        for path in BUNDLE, LOG, SOURCE:
+            remove(path)
+        os.mkdir(SOURCE)
+
+    def start(self, *arguments, command=(os.environ["INSTALLER"],), **options):
+        installer = subprocess.Popen([*command, *arguments], stdout=subprocess.PIPE, **options)
+        self.addCleanup(installer.stdout.close)
+        self.addCleanup(installer.kill)
+        return installer
+
+    def expect_orderly_end(self, installer):
+        output, _ = installer.communicate(timeout=60)
+        self.assertEqual((output, installer.returncode), (b"", 0))
+        self.assertEqual(read_log()[-1], "n installer exit")
+
+    def run_installer(self, *arguments, **options):
+        """Runs to the end without a person. The log."""
+        remove(LOG)
+        self.expect_orderly_end(self.start(*arguments, **options))
+        return read_log()
+
+    def run_and_press(self, *arguments, key="Return"):
+        """Runs until the window waits, and presses its button. The log."""
+        remove(LOG)
+        installer = self.start(*arguments)
+        while installer.poll() is None:
+            self.screen.press(key)
+        self.expect_orderly_end(installer)
+        return read_log()
