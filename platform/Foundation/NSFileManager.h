@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Foundation/NSError.h"
+#include "Foundation/NSURL.h"
 
 #include <optional>
 #include <string>
@@ -14,6 +15,17 @@ struct NSFileIdentity {
 
     bool operator==(const NSFileIdentity&) const = default;
 };
+
+// Unlike in Foundation, naming a property of a volume fetches nothing: it could only be had from
+// the volume itself, which may be out of reach.
+enum NSURLResourceKey {
+    NSURLVolumeNameKey,
+    NSURLVolumeIsRemovableKey,
+    NSURLVolumeIsEjectableKey,
+    NSURLVolumeIsReadOnlyKey,
+};
+
+enum NSVolumeEnumerationOptions { NSVolumeEnumerationSkipHiddenVolumes = 1 << 1 };
 
 // The file system. Paths are bytes; where an operation answers false or none it has filled in
 // `error`. Safe on any thread.
@@ -31,6 +43,15 @@ public:
 
     // Follows links. None where nothing is there.
     std::optional<NSFileIdentity> fileIdentityAtPath(const std::string& path) const;
+
+    // The mount points of the volumes that are not hidden, in the order of the mount table. Never
+    // waits for a volume.
+    std::vector<NSURL> mountedVolumeURLsIncludingResourceValuesForKeys(
+        const std::vector<NSURLResourceKey>& keys, NSVolumeEnumerationOptions options) const;
+
+    // Makes a folder the one from which relative paths start, for the whole process. Whether it
+    // could.
+    bool changeCurrentDirectoryPath(const std::string& path) const;
 
     // Creates an empty file. Unlike Foundation, one that is there already, or appears meanwhile,
     // keeps its content, and that is success.

@@ -84,6 +84,11 @@ std::optional<NSFileIdentity> NSFileManager::fileIdentityAtPath(const std::strin
     return NSFileIdentity { status.st_dev, status.st_ino };
 }
 
+bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
+{
+    return chdir(path.c_str()) == 0;
+}
+
 bool NSFileManager::createFileAtPath(const std::string& path) const
 {
     const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
