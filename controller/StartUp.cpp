@@ -51,9 +51,8 @@ void ViewController::startTask(const CommandLineOption& option)
         break;
     case Mode::unmount:
         progressIndicator->setDoubleValue(1.0);
-        DispatchQueue::global().async([controller] {
-            controller->reportFailure(NSError("Disk images can’t be detached yet."));
-        });
+        DispatchQueue::global().async(
+            [controller, path = option.path] { controller->unmountDiskImage(path); });
         break;
     }
 }

@@ -85,18 +85,21 @@ protected: // for the tests, which derive
     // caller's thread after each. Throws an NSError at the first that can't be removed.
     void removeBundle(TopDirectory topDirectory, const Progress& progress);
 
-    // The tasks. Each returns when it has reported its end.
+    // The tasks. Each returns when it has reported its end; but unmounting continues on the main
+    // thread once its first attempt has started.
     void installBundle(const std::string& sourcePath);
     void uninstallBundle();
+    void unmountDiskImage(const std::string& path);
 
     const std::string bundleDir = "quillbarn.app";
     const std::string applicationDir = "/Applications/";
     CGFloat m_resultPainViewHeight = 0;
-    std::int64_t m_ejectLoop = 0;
+    std::int64_t m_ejectLoop = 0; // attempts to unmount, made by one thread after the other
     bool m_test = false; // a dry run; nothing but a test sets it
 
 private:
     class TreeWalk;
+    class UnmountTask;
 
     static std::string nameOf(Mode mode);
     void prepareWindow();

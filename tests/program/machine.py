@@ -25,6 +25,14 @@ def await_that(condition, seconds=20):
     return result
 
 
+RUNNING = []  # what runs until the machine is gone
+
+
+def keep_running(*command, **options):
+    RUNNING.append(subprocess.Popen(command, **options))
+    return RUNNING[-1]
+
+
 def write(path, content=""):
     os.makedirs(os.path.dirname(path), exist_ok=True)
     with open(path, "w", **BYTES) as file:
@@ -78,11 +86,11 @@ class Screen:
         os.makedirs("/run/user", 0o700)
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
         ours, servers = os.pipe()
-        subprocess.Popen(
-            ["Xvfb", "-displayfd", str(servers), "-screen", "0", "800x600x24"],
+        keep_running(
+            "Xvfb", "-displayfd", str(servers), "-screen", "0", "800x600x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
         os.environ["DISPLAY"] = ":" + os.read(ours, 9).decode().strip()
-        subprocess.Popen(["openbox"])
+        keep_running("openbox", stderr=subprocess.DEVNULL)
 
     def press(self, key):
         subprocess.run(["xdotool", "key", key], check=True)

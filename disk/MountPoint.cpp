@@ -1,0 +1,20 @@
+#include "disk/MountPoint.h"
+
+#include "Foundation/NSFileManager.h"
+#include "Foundation/NSString.h"
+
+std::optional<NSURL> getDMGMountPointURL(const std::string& path)
+{
+    const std::vector<NSURLResourceKey> keys { NSURLVolumeNameKey, NSURLVolumeIsRemovableKey,
+        NSURLVolumeIsEjectableKey, NSURLVolumeIsReadOnlyKey };
+    const auto volumes
+        = NSFileManager::defaultManager().mountedVolumeURLsIncludingResourceValuesForKeys(
+            keys, NSVolumeEnumerationSkipHiddenVolumes);
+    for (const NSURL& volume : volumes) {
+        if (volume.scheme() != "file" || volume.path() == "/")
+            continue;
+        if (NSString::rangeOfString(path, volume.path() + "/") == 0)
+            return volume;
+    }
+    return std::nullopt;
+}

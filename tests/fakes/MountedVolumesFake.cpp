@@ -1,0 +1,38 @@
+#include "fakes/MountedVolumesFake.h"
+
+#include "Foundation/NSFileManager.h"
+
+namespace {
+
+struct Volumes {
+    std::vector<std::string> mountPoints;
+    int asked = 0;
+};
+
+Volumes& current()
+{
+    static Volumes volumes;
+    return volumes;
+}
+
+}
+
+void setMountedVolumes(std::vector<std::string> mountPoints)
+{
+    current() = { std::move(mountPoints), 0 };
+}
+
+int mountedVolumesAsked()
+{
+    return current().asked;
+}
+
+std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKeys(
+    const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const
+{
+    ++current().asked;
+    std::vector<NSURL> volumes;
+    for (const std::string& mountPoint : current().mountPoints)
+        volumes.push_back(NSURL::fileURLWithPath(mountPoint));
+    return volumes;
+}
