@@ -86,22 +86,6 @@ TEST_F(UnmountTask, triesUntilTheVolumeIsFreeButNotMoreThanSevenTimes)
     }
 }
 
-TEST_F(UnmountTask, ofAPathThatIsGoneHasSucceededAtOnce)
-{
-    removeTree(path);
-    EXPECT_EQ(run(), logWithEnd({ "d unmount succeeded" }));
-    EXPECT_EQ(mountedVolumesAsked(), 0);
-}
-
-TEST_F(UnmountTask, ofAPathOnNoVolumeFailsAtOnce)
-{
-    setMountedVolumes({ "/", "/Volumes/other" });
-    EXPECT_EQ(run(), logWithEnd({ "d getDMGMountPointURL failed", "d failed" }));
-    EXPECT_EQ(mountedVolumesAsked(), 1);
-    EXPECT_TRUE(diskArbitration().calls.empty());
-    EXPECT_EQ(takePauses(), Pauses {});
-}
-
 TEST_F(UnmountTask, takesAVolumeThatIsNotEjectedForUnmounted)
 {
     diskArbitration().eject = [] { return false; };

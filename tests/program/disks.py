@@ -78,7 +78,7 @@ class DiskImage:
         run("mount", "-t", "squashfs", volume, mount_point)
         if kind == "self-detaching":
             run("losetup", "--detach", self.device)  # as soon as it is free
-        await_that(lambda: re.search("MountPoints: +/", run("udisksctl", "info", "-b", volume)))
+        await_that(lambda: self._is_known_mounted(volume))
 
     def _partition(self):
         with open(self.file, "rb+") as file:
@@ -89,6 +89,12 @@ class DiskImage:
         subprocess.run(
             ["sfdisk", "--quiet", "--wipe-partitions", "never", self.file], check=True, text=True,
             input="label: gpt\nstart=1MiB, size=1MiB\nstart=2MiB, size=1MiB\n", **QUIET)
+
+    @staticmethod
+    def _is_known_mounted(volume):
+        """To the service, which hears of a new device only after a moment."""
+        info = subprocess.run(["udisksctl", "info", "-b", volume], capture_output=True, **TEXT)
+        return re.search("MountPoints: +/", info.stdout)
 
     def _clean_up(self):
         if self.is_mounted():

@@ -27,6 +27,14 @@ class Failure(InstallerTest):
             "(No such file or directory).")
         self.expect_installed({"kept": "installed"})
 
+    def test_a_link_that_leads_back(self):
+        os.symlink("..", SOURCE + "quillbarn.app/Contents/loop")
+        self.expect_end(
+            self.run_and_press("-install", SOURCE), "n install bundle",
+            f"The link “{SOURCE}quillbarn.app/Contents/loop” couldn’t be followed because it leads "
+            f"back to “{SOURCE}quillbarn.app/”, a folder that holds it.")
+        self.expect_installed({"kept": "installed"})
+
     def test_the_installed_bundle_as_its_own_source(self):
         os.symlink("/Applications", SOURCE + "link")
         for source in "/Applications/", SOURCE + "link/":

@@ -48,15 +48,3 @@ TEST(MainQueue, losesNothingOfSeveralThreadsThatComeAndGo)
     EXPECT_TRUE(runMainLoopUntil([&] { return finished == threads; }));
     EXPECT_EQ(count, threads * rounds);
 }
-
-TEST(MainQueue, workMaySubmitWorkThatRunsLater)
-{
-    std::vector<int> order;
-    DispatchQueue::main().async([&] {
-        DispatchQueue::main().async([&] { order.push_back(2); });
-        order.push_back(1);
-    });
-    EXPECT_TRUE(order.empty());
-    EXPECT_TRUE(runMainLoopUntil([&] { return order.size() == 2; }));
-    EXPECT_EQ(order, (std::vector { 1, 2 }));
-}

@@ -29,35 +29,6 @@ std::string copy(const std::string& from, const std::string& to)
 
 }
 
-TEST(NSFileManager, listsEveryNameOfAFolderButNotTheFolderItself)
-{
-    const TemporaryFolder folder;
-    const std::vector<std::string> names { ".hidden", "line\nfeed", "not \xFF UTF-8", "folder" };
-    for (const std::string& name : names)
-        makeFolder(folder / name);
-    makeLink(folder / "dangling", "nowhere");
-
-    auto found = files.contentsOfDirectoryAtPath(folder.path(), nullptr).value();
-    std::ranges::sort(found);
-    EXPECT_EQ(found,
-        (std::vector<std::string> { ".hidden", "dangling", "folder", "line\nfeed", names[2] }));
-}
-
-TEST(NSFileManager, existenceFollowsLinks)
-{
-    const TemporaryFolder folder;
-    makeFolder(folder / "folder");
-    makeLink(folder / "link", "folder");
-    makeLink(folder / "dangling", "nowhere");
-
-    bool isDirectory = false;
-    EXPECT_TRUE(files.fileExistsAtPath(folder / "link", isDirectory));
-    EXPECT_TRUE(isDirectory);
-    EXPECT_FALSE(files.fileExistsAtPath(folder / "dangling"));
-    EXPECT_EQ(
-        files.fileIdentityAtPath(folder / "link"), files.fileIdentityAtPath(folder / "folder"));
-}
-
 TEST(NSFileManager, creatingAFileThatIsThereKeepsIt)
 {
     const TemporaryFolder folder;
