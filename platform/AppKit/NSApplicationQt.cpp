@@ -21,6 +21,14 @@ void requireDisplay()
     std::exit(EXIT_FAILURE);
 }
 
+// Where no session bus is said to be, the bus library would start one. What is left is to look where
+// the session's own would be.
+void keepFromStartingABus()
+{
+    constexpr int keep = 0; // what is said
+    setenv("DBUS_SESSION_BUS_ADDRESS", "unix:runtime=yes", keep);
+}
+
 }
 
 NSApplication& NSApplication::sharedApplication()
@@ -65,6 +73,7 @@ int NSApplication::run(const std::shared_ptr<NSWindow>& mainWindow)
 int NSApplicationMain(int argc, const char* const argv[])
 {
     requireDisplay();
+    keepFromStartingABus();
 
     // The arguments are the program's own: from more than its name Qt would take what it knows.
     std::string name = argc > 0 ? argv[0] : "";
