@@ -1,12 +1,16 @@
-// The least that Qt shows, beside which the start of the installer is measured.
+// The least that Qt shows, beside which the start of the installer is measured: an empty window, or
+// one with a line of text.
+//
+//     smallestwindow [TEXT]
 
 #include <QApplication>
-#include <QWidget>
+#include <QLabel>
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    QWidget window;
-    window.show();
+    QWidget empty;
+    QLabel line(argc > 1 ? argv[1] : "");
+    (argc > 1 ? line : empty).show();
     return QApplication::exec();
 }

@@ -1,7 +1,7 @@
 // Tells how long a program takes from its start to its first window on the screen, in milliseconds,
 // and ends it.
 //
-//     untilshown PROGRAM
+//     untilshown PROGRAM ARGUMENT...
 
 #include <chrono>
 #include <csignal>
@@ -45,14 +45,14 @@ bool awaitWindow(xcb_connection_t* screen)
 int main(int argc, char* argv[])
 {
     xcb_connection_t* const screen = xcb_connect(nullptr, nullptr);
-    if (argc != 2 || xcb_connection_has_error(screen))
+    if (argc < 2 || xcb_connection_has_error(screen))
         return EXIT_FAILURE;
     observeWindows(screen);
 
     const auto start = std::chrono::steady_clock::now();
     const pid_t program = fork();
     if (program == 0) {
-        execl(argv[1], argv[1], nullptr);
+        execv(argv[1], argv + 1);
         _exit(EXIT_FAILURE);
     }
     const bool isShown = awaitWindow(screen);
