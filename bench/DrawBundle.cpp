@@ -50,8 +50,7 @@ void drawFiles(const fs::path& bundle, int count)
 void drawDeep(fs::path bundle, int count)
 {
     for (int i = 0; i < count; ++i)
-        bundle /= "d";
-    fs::create_directories(bundle);
+        fs::create_directory(bundle /= "d");
 }
 
 void drawWide(const fs::path& bundle, int count)
