@@ -18,10 +18,8 @@ struct MainQueue::Completion {
 
     void await()
     {
-        if (wait.spinUntil([this] { return isDone.test(std::memory_order_acquire); }))
-            return;
-        isDone.wait(false, std::memory_order_acquire);
-        wait.slept();
+        if (!wait.spinUntil([this] { return isDone.test(std::memory_order_acquire); }))
+            isDone.wait(false, std::memory_order_acquire);
     }
 
     void signal()
@@ -64,8 +62,6 @@ void MainQueue::add(Item item)
 
 void MainQueue::run()
 {
-    if (std::exchange(m_hasSlept, false))
-        m_idle.slept();
     const auto end = Clock::now() + frame;
     do {
         while (runNext()) {
@@ -100,6 +96,5 @@ bool MainQueue::fallAsleep()
 {
     const std::lock_guard lock(m_mutex);
     m_isAwake = !m_items.empty();
-    m_hasSlept = !m_isAwake;
-    return m_hasSlept;
+    return !m_isAwake;
 }

@@ -38,5 +38,4 @@ private:
     bool m_isAwake = false; // run() is at work or about to be called
     std::atomic<bool> m_hasItems = false;
     ShortWait m_idle; // on the main thread
-    bool m_hasSlept = false; // on the main thread
 };

@@ -1,41 +1,56 @@
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 
 // Waking a thread that sleeps on another core costs several times what a hand-over itself does. So
-// a thread that waits for another first looks on for a moment, as long as that has lately been
-// enough. With one core it goes to sleep at once: the other could not run meanwhile.
+// a thread that waits for another looks on first, for as long as a file or the log usually needs.
+// Each time that was in vain it looks on less often, or on a machine with other work to do the two
+// would wait for a core that the one is only looking from; it then looks for no longer than the
+// other needs to wake up. With one core it goes to sleep at once.
 // One thread at a time.
 class ShortWait {
 public:
-    // Whether `isOver` came true within that moment. If not, the caller sleeps, and says so with
-    // slept() when it is awake again.
-    template <class Condition> bool spinUntil(Condition isOver)
+    // Whether `isOver` came true while it looked on. If not, the caller sleeps.
+    template <class Condition> bool spinUntil(const Condition& isOver)
     {
-        m_start = Clock::now();
-        if (!m_lastWasShort || !hasOtherCore())
+        if (!hasOtherCore())
             return isOver();
+        const bool rests = m_rests > 0;
+        const bool wasWorthIt = spin(rests ? wakingUp : usualWork, isOver);
+        if (wasWorthIt)
+            m_failures /= 2;
+        else if (rests)
+            --m_rests;
+        else
+            m_rests = m_failures = std::min(2 * m_failures + 1, mostRests);
+        return wasWorthIt;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    static constexpr std::chrono::microseconds wakingUp { 50 };
+    static constexpr std::chrono::microseconds usualWork { 1000 };
+    static constexpr int looksPerClockReading = 32;
+    static constexpr int mostRests = 255;
+
+    static bool hasOtherCore();
+    static void relax();
+
+    template <class Condition> static bool spin(Clock::duration limit, const Condition& isOver)
+    {
+        const auto end = Clock::now() + limit;
         do {
             for (int i = 0; i < looksPerClockReading; ++i) {
                 if (isOver())
                     return true;
                 relax();
             }
-        } while (Clock::now() - m_start < limit);
+        } while (Clock::now() < end);
         return false;
     }
 
-    void slept() { m_lastWasShort = Clock::now() - m_start < limit; }
-
-private:
-    using Clock = std::chrono::steady_clock;
-
-    static constexpr std::chrono::microseconds limit { 200 };
-    static constexpr int looksPerClockReading = 32;
-
-    static bool hasOtherCore();
-    static void relax();
-
-    Clock::time_point m_start;
-    bool m_lastWasShort = true;
+    int m_rests = 0; // how many times from now on it looks for the shorter time
+    int m_failures = 0;
 };
