@@ -20,21 +20,29 @@ public:
     void requireInside(const std::string& path);
 
 private:
+    bool isKnown(const std::string& folder) const
+    {
+        return folder.starts_with(m_top) && m_known.starts_with(folder + "/");
+    }
+
     const std::string m_top;
     const std::string m_realTop;
-    std::string m_lastFolder; // known to be inside: entries of one folder come together
+    // With a slash, a folder that no link leads to: it is inside, and so is all it lies in. Entries
+    // of one folder come together, and after them the folder itself.
+    std::string m_known;
 };
 
 void BundleBounds::requireInside(const std::string& path)
 {
     const std::string folder = path.substr(0, path.rfind('/'));
-    if (path == m_top || folder == m_lastFolder)
+    if (path == m_top || isKnown(folder))
         return;
     const std::string realFolder = NSString::stringByResolvingSymlinksInPath(folder);
     if (!(realFolder + "/").starts_with(m_realTop + "/"))
         throw NSError("“" + path + "” couldn’t be removed because it is not in the bundle: “"
             + folder + "” leads to “" + realFolder + "”.");
-    m_lastFolder = folder;
+    if (realFolder == m_realTop + folder.substr(m_top.size()))
+        m_known = folder + "/";
 }
 
 }

@@ -81,6 +81,17 @@ class Failure(InstallerTest):
             f"“{BUNDLE}/link” leads to “/tmp/desktop”.")
         self.assertEqual(read("/tmp/desktop/letter"), "dear")
 
+    def test_a_link_that_leads_out_of_the_bundle_and_back(self):
+        os.mkdir("/tmp/outside")
+        os.symlink("/tmp/outside", BUNDLE + "/link")
+        os.symlink(BUNDLE + "/folder", "/tmp/outside/back")
+        write(BUNDLE + "/folder/file", "removed through the links, whose turn comes first")
+        self.expect_end(
+            self.run_and_press("-uninstall"), f"d remove {BUNDLE}/link/back/",
+            f"“{BUNDLE}/link/back” couldn’t be removed because it is not in the bundle: "
+            f"“{BUNDLE}/link” leads to “/tmp/outside”.")
+        self.assertTrue(os.path.islink("/tmp/outside/back"))
+
     def test_a_link_in_the_place_of_the_bundle(self):
         write("/tmp/desktop/letter", "dear")
         os.rename(BUNDLE, "/tmp/elsewhere")
