@@ -21,8 +21,8 @@ void requireDisplay()
     std::exit(EXIT_FAILURE);
 }
 
-// Where no session bus is said to be, the bus library would start one. What is left is to look where
-// the session's own would be.
+// Where no session bus is said to be, the bus library would start one. What is left is to look
+// where the session's own would be.
 void keepFromStartingABus()
 {
     constexpr int keep = 0; // what is said
