@@ -26,12 +26,16 @@ namespace {
 const std::string applications = "/Applications/";
 const std::string bundle = "quillbarn.app";
 
-void require(bool success, const std::string& what)
+[[noreturn]] void fail(const std::string& what)
 {
-    if (success)
-        return;
     perror(what.c_str());
     _exit(EXIT_FAILURE);
+}
+
+void require(bool success, const std::string& what)
+{
+    if (!success)
+        fail(what);
 }
 
 struct Entry {
@@ -44,7 +48,8 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
     struct stat status = {};
     require(stat(folder.c_str(), &status) == 0, folder);
     DIR* const directory = opendir(folder.c_str());
-    require(directory != nullptr, folder);
+    if (!directory)
+        fail(folder);
     std::vector<std::string> names;
     while (const dirent* item = readdir(directory))
         names.emplace_back(item->d_name);
@@ -61,7 +66,7 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
 
 void copyFile(const std::string& source, const std::string& destination)
 {
-    static std::array<char, 128 * 1024> buffer;
+    static std::array<char, 128UL * 1024> buffer;
     struct stat status = {};
     require(lstat(source.c_str(), &status) == 0, source);
     const int from = open(source.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);

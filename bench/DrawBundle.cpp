@@ -20,7 +20,7 @@ namespace {
 
 constexpr int perFolder = 16;
 constexpr std::size_t smallest = 64; // bytes
-constexpr std::size_t largest = 32 * 1024;
+constexpr std::size_t largest = 32UL * 1024;
 constexpr std::size_t magnitudes = 9; // from the one to the other
 
 fs::path folderOf(int file)

@@ -3,6 +3,7 @@
 #include "support/LogFile.h"
 #include "support/Tree.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <regex>
 #include <sys/stat.h>
@@ -75,10 +76,10 @@ TEST_F(LoggerTest, dropsWhatComesAfterTheClose)
 
 TEST_F(LoggerTest, theSharedLoggerIsMadeOnceByWhoeverIsFirst)
 {
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i)
-        threads.emplace_back([] { sharedLogger().log("first", Level::normal); });
+    std::array<std::thread, 8> threads;
+    for (std::thread& thread : threads)
+        thread = std::thread([] { sharedLogger().log("first", Level::normal); });
     for (std::thread& thread : threads)
         thread.join();
-    EXPECT_EQ(readLog(), std::vector<std::string>(8, "n first"));
+    EXPECT_EQ(readLog(), std::vector<std::string>(threads.size(), "n first"));
 }

@@ -8,6 +8,22 @@
 #include <thread>
 #include <vector>
 
+namespace {
+
+void submitInBothWays(std::vector<int>& order, std::thread::id mainThread)
+{
+    for (int i = 0; i < 1000; i += 2) {
+        DispatchQueue::main().async([&, i] { order.push_back(i); });
+        DispatchQueue::main().sync([&, i] {
+            EXPECT_EQ(std::this_thread::get_id(), mainThread);
+            order.push_back(i + 1);
+        });
+        EXPECT_EQ(order.size(), std::size_t(i + 2));
+    }
+}
+
+}
+
 TEST(MainQueue, runsOnTheMainThreadInTheOrderOfSubmission)
 {
     const auto mainThread = std::this_thread::get_id();
@@ -15,14 +31,7 @@ TEST(MainQueue, runsOnTheMainThreadInTheOrderOfSubmission)
     std::atomic<bool> isOver = false;
     DispatchQueue::global().async([&] {
         EXPECT_NE(std::this_thread::get_id(), mainThread);
-        for (int i = 0; i < 1000; i += 2) {
-            DispatchQueue::main().async([&, i] { order.push_back(i); });
-            DispatchQueue::main().sync([&, i] {
-                EXPECT_EQ(std::this_thread::get_id(), mainThread);
-                order.push_back(i + 1);
-            });
-            EXPECT_EQ(order.size(), std::size_t(i + 2));
-        }
+        submitInBothWays(order, mainThread);
         isOver = true;
     });
     EXPECT_TRUE(runMainLoopUntil([&] { return isOver.load(); }));
