@@ -1,6 +1,6 @@
-#include "app/AppDelegate.h"
+#include "AppDelegate.h"
 
-#include "log/Logger.h"
+#include "Logger.h"
 
 void AppDelegate::applicationDidFinishLaunching()
 {

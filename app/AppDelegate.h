@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AppKit/NSApplication.h"
+#include <AppKit/NSApplication.h>
 
 class AppDelegate : public NSApplicationDelegate {
 public:

@@ -1,4 +1,4 @@
-#include "AppKit/NSApplication.h"
+#include <AppKit/NSApplication.h>
 
 int main(int argc, char* argv[])
 {

@@ -5,7 +5,7 @@
 //     bareloop asleep|awake install SOURCE/
 //     bareloop asleep|awake uninstall
 
-#include "bench/HandOver.h"
+#include "HandOver.h"
 
 #include <array>
 #include <cstdio>

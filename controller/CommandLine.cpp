@@ -1,8 +1,11 @@
-#include "controller/ViewController.h"
+#include "ViewController.h"
 
-#include "Foundation/NSProcessInfo.h"
-#include "Foundation/NSString.h"
-#include "log/Logger.h"
+#include "Logger.h"
+
+#include <Foundation/NSProcessInfo.h>
+#include <Foundation/NSString.h>
+
+#include <array>
 
 namespace {
 
@@ -16,17 +19,14 @@ std::string unquoted(const std::string& argument)
 
 }
 
-std::string ViewController::nameOf(Mode mode)
+const ViewController::ModeTexts& ViewController::textsOf(Mode mode)
 {
-    switch (mode) {
-    case Mode::install:
-        return "install";
-    case Mode::uninstall:
-        return "uninstall";
-    case Mode::unmount:
-        return "unmount";
-    }
-    return {};
+    static constexpr std::array<ModeTexts, 3> texts { {
+        { "install", "Installing quillbarn", "quillbarn could not be installed" },
+        { "uninstall", "Removing quillbarn", "quillbarn could not be removed" },
+        { "unmount", "Ejecting the disk image", "The disk image could not be ejected" },
+    } };
+    return texts.at(std::size_t(mode));
 }
 
 std::optional<ViewController::CommandLineOption> ViewController::parseCommandLine() const
@@ -59,6 +59,6 @@ std::optional<ViewController::CommandLineOption> ViewController::parseCommandLin
     if (!mode || !path)
         return std::nullopt;
 
-    sharedLogger().log(nameOf(*mode) + ' ' + *path, Logger::LogLevel::debug);
+    sharedLogger().log(textsOf(*mode).name + (' ' + *path), Logger::LogLevel::debug);
     return CommandLineOption { *mode, *path };
 }

@@ -1,15 +1,18 @@
-#include "controller/ViewController.h"
+#include "ViewController.h"
 
-#include "AppKit/NSAnimationContext.h"
-#include "AppKit/NSButton.h"
-#include "AppKit/NSLayoutConstraint.h"
-#include "AppKit/NSProgressIndicator.h"
-#include "AppKit/NSScrollView.h"
-#include "AppKit/NSTextField.h"
-#include "AppKit/NSWindow.h"
-#include "log/Logger.h"
+#include "Logger.h"
+
+#include <AppKit/NSAnimationContext.h>
+#include <AppKit/NSButton.h>
+#include <AppKit/NSLayoutConstraint.h>
+#include <AppKit/NSProgressIndicator.h>
+#include <AppKit/NSScrollView.h>
+#include <AppKit/NSTextField.h>
+#include <AppKit/NSWindow.h>
+#include <Foundation/NSThread.h>
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 namespace {
@@ -22,6 +25,7 @@ constexpr double openingDuration = 0.5; // seconds
 
 void ViewController::showMessage(const std::string& message)
 {
+    assert(NSThread::isMainThread());
     const auto text = resultText.get();
     const auto scrollView = resultTextScrollView.get();
     const auto endPosition
@@ -39,11 +43,13 @@ void ViewController::showMessage(const std::string& message)
 
 void ViewController::setProgress(std::int64_t index, std::int64_t count)
 {
+    assert(NSThread::isMainThread());
     progressIndicator->setDoubleValue(double(index + 1) / double(count));
 }
 
 void ViewController::showResult()
 {
+    assert(NSThread::isMainThread());
     const auto scrollView = resultTextScrollView.get();
     resultText->setFrame(
         { {}, { scrollView->bounds().size.width, resultText->frame().size.height } });
@@ -53,22 +59,41 @@ void ViewController::showResult()
 
     NSAnimationContext::beginGrouping();
     NSAnimationContext::currentContext().setDuration(openingDuration);
+    NSAnimationContext::currentContext().setCompletionHandler(
+        [controller = self()] { controller->giveKeyboardToButton(); });
     resultPainViewHeightConstraint->animator().setConstant(m_resultPainViewHeight);
     NSAnimationContext::endGrouping();
 
     resultButton->setEnabled(true);
 }
 
+void ViewController::showFailure(Mode mode, const std::string& description)
+{
+    view()->window()->setTitle(textsOf(mode).failureTitle);
+    resultButton->setAccessibilityHelp(description);
+    showResult();
+}
+
+// Not before the pane is open: a key that was meant for something else would close it unread.
+void ViewController::giveKeyboardToButton()
+{
+    view()->window()->enableKeyEquivalentForDefaultButton();
+}
+
 void ViewController::finish()
 {
-    if (m_test)
-        resultButton->setEnabled(true);
-    else
+    assert(NSThread::isMainThread());
+    if (!m_test) {
         closeWindow();
+        return;
+    }
+    resultButton->setEnabled(true);
+    giveKeyboardToButton();
 }
 
 void ViewController::closeWindow()
 {
+    assert(NSThread::isMainThread());
     view()->window()->close();
 }
 

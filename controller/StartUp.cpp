@@ -1,28 +1,47 @@
-#include "controller/ViewController.h"
+#include "ViewController.h"
 
-#include "AppKit/NSApplication.h"
-#include "AppKit/NSButton.h"
-#include "AppKit/NSLayoutConstraint.h"
-#include "AppKit/NSProgressIndicator.h"
-#include "AppKit/NSScrollView.h"
-#include "AppKit/NSTextField.h"
-#include "Dispatch/DispatchQueue.h"
-#include "log/Logger.h"
+#include "Logger.h"
+
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSButton.h>
+#include <AppKit/NSLayoutConstraint.h>
+#include <AppKit/NSProgressIndicator.h>
+#include <AppKit/NSScrollView.h>
+#include <AppKit/NSTextField.h>
+#include <AppKit/NSWindow.h>
+#include <Dispatch/DispatchQueue.h>
 
 void ViewController::viewDidLoad()
 {
     NSViewController::viewDidLoad();
     sharedLogger().log("installer start", Logger::LogLevel::normal);
+    requireOutlets();
     prepareWindow();
     NSApplication::sharedApplication().activateIgnoringOtherApps();
 
-    const std::optional<CommandLineOption> option = parseCommandLine();
-    if (!option) {
-        showMessage("invalid options");
-        showResult();
+    if (const std::optional<CommandLineOption> option = parseCommandLine()) {
+        startTask(*option);
         return;
     }
-    startTask(*option);
+    showMessage("invalid options");
+    resultButton->setAccessibilityHelp("invalid options");
+    showResult();
+}
+
+void ViewController::requireOutlets() const
+{
+    const auto require = [](const auto& outlet, const char* name) {
+        if (outlet.get())
+            return;
+        sharedLogger().log(std::string("outlet not connected: ") + name, Logger::LogLevel::error);
+        NSApplication::sharedApplication().terminate();
+    };
+    require(progressIndicator, "progressIndicator");
+    require(resultPainView, "resultPainView");
+    require(resultPainViewHeightConstraint, "resultPainViewHeightConstraint");
+    require(resultTextScrollView, "resultTextScrollView");
+    require(resultText, "resultText");
+    require(resultButton, "resultButton");
 }
 
 void ViewController::prepareWindow()
@@ -39,6 +58,7 @@ void ViewController::prepareWindow()
 
 void ViewController::startTask(const CommandLineOption& option)
 {
+    view()->window()->setTitle(textsOf(option.mode).title);
     // The task keeps the controller until it has run.
     const auto controller = self();
     switch (option.mode) {

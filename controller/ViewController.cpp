@@ -1,4 +1,4 @@
-#include "controller/ViewController.h"
+#include "ViewController.h"
 
 std::shared_ptr<ViewController> ViewController::initWithCoder(const NSCoder& coder)
 {

@@ -1,14 +1,16 @@
 #pragma once
 
-#include "AppKit/IBOutlet.h"
-#include "AppKit/NSViewController.h"
-#include "Foundation/NSError.h"
+#include "BundleTree.h"
+#include "UninstallTask.h"
+
+#include <AppKit/IBOutlet.h>
+#include <AppKit/NSViewController.h>
+#include <Foundation/NSGeometry.h>
 
 #include <cstdint>
-#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 class NSButton;
 class NSLayoutConstraint;
@@ -16,8 +18,8 @@ class NSProgressIndicator;
 class NSScrollView;
 class NSTextField;
 
-// The controller of the installer's window, and the task of a run. The window is the main thread's;
-// a task has a background thread of its own and reaches the window through report… alone.
+// The controller of the installer's window: reads the command line, picks the task of the run, and
+// shows what the task reports. Main thread only, but for what is marked as a task.
 class ViewController : public NSViewController {
 public:
     // nullptr where the interface file holds no window.
@@ -25,6 +27,8 @@ public:
     static std::shared_ptr<ViewController> initWithNibName(
         const std::string& nibName, const NSBundle* bundle);
 
+    // Prepares the window and starts the task, or says that the options are invalid. An outlet that
+    // is not connected ends the run, with a line in the log.
     void viewDidLoad() override;
     void resultButtonClicked(const NSView* sender);
 
@@ -35,10 +39,22 @@ public:
     IBOutlet<NSTextField> resultText;
     IBOutlet<NSButton> resultButton;
 
-protected: // for the tests, which derive
-    ViewController() = default;
+    const std::string bundleDir = "quillbarn.app";
+    const std::string applicationDir = "/Applications/";
+    CGFloat m_resultPainViewHeight = 0; // of the open pane, in points
+    std::int64_t m_ejectLoop = 0; // attempts to unmount, made by one thread after the other
+    bool m_test = false; // a dry run; nothing but a test sets it
 
     enum class Mode { install, uninstall, unmount };
+
+    // What a mode is called in the log, and in the window's title while it runs and after it
+    // failed.
+    struct ModeTexts {
+        const char* name;
+        const char* title;
+        const char* failureTitle;
+    };
+    static const ModeTexts& textsOf(Mode mode);
 
     struct CommandLineOption {
         Mode mode;
@@ -48,62 +64,35 @@ protected: // for the tests, which derive
     // What the command line asks for, which it logs; or none.
     std::optional<CommandLineOption> parseCommandLine() const;
 
-    // The window, on the main thread. Paths and messages are bytes.
+    // The window. Paths and messages are bytes.
     void showMessage(const std::string& message);
     void setProgress(std::int64_t index, std::int64_t count);
     void showResult();
     void finish();
     void closeWindow();
 
-    // The window, from a task. The first two return when the message or step is in the window, the
-    // message in the log, too. The others end a task: success takes a second, then shows
-    // "completed" and leaves `lastStep` to the main thread; failure opens the pane.
-    void report(const std::string& message);
-    void reportProgress(std::int64_t index, std::int64_t count);
-    void reportSuccess(void (ViewController::*lastStep)());
-    void reportFailure(const NSError& error);
+    // Says how the run failed to whoever reads the window's title or hears it read, and opens the
+    // pane.
+    void showFailure(Mode mode, const std::string& description);
 
-    // An entry of a bundle.
-    struct File {
-        bool isDirectory; // or a link to one
-        std::string path; // from the folder that holds the bundle, without a "/" at either end
-    };
-
-    // All entries below a folder, each folder before what it holds, under `prefix`. Both arguments
-    // end in "/". Throws an NSError.
-    static std::vector<File> getFiles(const std::string& directory, const std::string& prefix);
-
-    enum class TopDirectory { exclude, include };
-
-    // All entries of the bundle in `parent`, which ends in "/", the bundle's own folder first if
-    // it is included. Throws an NSError.
-    std::vector<File> listBundle(const std::string& parent, TopDirectory topDirectory) const;
-
-    using Progress = std::function<void(std::int64_t index, std::int64_t count)>;
-
-    // Removes the installed bundle, deepest entries first. `progress`, if any, is called on the
-    // caller's thread after each. Throws an NSError at the first that can't be removed.
-    void removeBundle(TopDirectory topDirectory, const Progress& progress);
-
-    // The tasks. Each returns when it has reported its end; but unmounting continues on the main
-    // thread once its first attempt has started.
+    // The tasks, each on a background thread. They return when they have reported their end; but
+    // unmounting continues on the main thread once its first attempt has started.
     void installBundle(const std::string& sourcePath);
     void uninstallBundle();
     void unmountDiskImage(const std::string& path);
 
-    const std::string bundleDir = "quillbarn.app";
-    const std::string applicationDir = "/Applications/";
-    CGFloat m_resultPainViewHeight = 0;
-    std::int64_t m_ejectLoop = 0; // attempts to unmount, made by one thread after the other
-    bool m_test = false; // a dry run; nothing but a test sets it
+    // What the tasks are made of: see BundleTree and UninstallTask.
+    using File = BundleTree::File;
+    static std::vector<File> getFiles(const std::string& folder, const std::string& prefix);
+    void removeBundle(BundleTree::TopFolder topFolder, const UninstallTask::Progress& progress);
 
 private:
-    class TreeWalk;
-    class UnmountTask;
+    ViewController() = default;
 
-    static std::string nameOf(Mode mode);
+    void requireOutlets() const;
     void prepareWindow();
     void startTask(const CommandLineOption& option);
-    void createEntry(const std::string& sourcePath, const File& file);
+    void giveKeyboardToButton();
+    DryRun dryRun() const { return m_test ? DryRun::yes : DryRun::no; }
     std::shared_ptr<ViewController> self();
 };

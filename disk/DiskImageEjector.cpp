@@ -1,7 +1,7 @@
-#include "disk/DiskImageEjector.h"
+#include "DiskImageEjector.h"
 
-#include "Dispatch/DispatchQueue.h"
-#include "Foundation/NSRunLoop.h"
+#include <Dispatch/DispatchQueue.h>
+#include <Foundation/NSRunLoop.h>
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DiskArbitration/DADisk.h"
+#include <DiskArbitration/DADisk.h>
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
-#include "disk/MountPoint.h"
+#include "MountPoint.h"
 
-#include "Foundation/NSFileManager.h"
-#include "Foundation/NSString.h"
+#include <Foundation/NSFileManager.h>
+#include <Foundation/NSString.h>
 
 std::optional<NSURL> getDMGMountPointURL(const std::string& path)
 {

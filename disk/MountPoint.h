@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/NSURL.h"
+#include <Foundation/NSURL.h>
 
 #include <optional>
 #include <string>

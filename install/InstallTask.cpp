@@ -1,9 +1,11 @@
-#include "controller/ViewController.h"
+#include "InstallTask.h"
 
-#include "Foundation/NSFileManager.h"
-#include "Foundation/NSString.h"
-#include "Foundation/NSThread.h"
-#include "log/Logger.h"
+#include "Logger.h"
+#include "UninstallTask.h"
+
+#include <Foundation/NSFileManager.h>
+#include <Foundation/NSString.h>
+#include <Foundation/NSThread.h>
 
 namespace {
 
@@ -27,30 +29,30 @@ void requireApart(const std::string& source, const std::string& destination)
 
 }
 
-void ViewController::installBundle(const std::string& sourcePath)
+void InstallTask::run(const std::string& sourcePath) const
 {
     sharedLogger().log("install bundle", Logger::LogLevel::normal);
-    try {
-        const std::vector<File> files = listBundle(sourcePath, TopDirectory::include);
-        requireApart(sourcePath + bundleDir, applicationDir + bundleDir);
-        removeBundle(TopDirectory::exclude, nullptr);
-        for (std::size_t i = 0; i < files.size(); ++i) {
-            createEntry(sourcePath, files[i]);
-            reportProgress(std::int64_t(i), std::int64_t(files.size()));
-        }
-    } catch (const NSError& error) {
-        reportFailure(error);
-        return;
-    }
-    reportSuccess(&ViewController::closeWindow);
+    runToEnd([&] { install(sourcePath); }, &TaskReport::closeWindow);
 }
 
-void ViewController::createEntry(const std::string& sourcePath, const File& file)
+void InstallTask::install(const std::string& sourcePath) const
+{
+    using TopFolder = BundleTree::TopFolder;
+    const auto files = BundleTree::listBundle(sourcePath, bundleDir, TopFolder::include);
+    requireApart(sourcePath + bundleDir, applicationDir + bundleDir);
+    UninstallTask(*this).removeBundle(TopFolder::exclude, nullptr);
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        createEntry(sourcePath, files[i]);
+        report().setProgress(std::int64_t(i), std::int64_t(files.size()));
+    }
+}
+
+void InstallTask::createEntry(const std::string& sourcePath, const BundleTree::File& file) const
 {
     const NSFileManager& fileManager = NSFileManager::defaultManager();
     const std::string destination = applicationDir + file.path;
-    report((file.isDirectory ? "mkdir " : " copy ") + destination);
-    if (m_test) {
+    report().showMessage((file.isDirectory ? "mkdir " : " copy ") + destination);
+    if (isDryRun()) {
         if (!file.isDirectory)
             NSThread::sleepForTimeInterval(dryRunPerFile);
         return;

@@ -1,8 +1,9 @@
-#include "controller/ViewController.h"
+#include "UninstallTask.h"
 
-#include "Foundation/NSFileManager.h"
-#include "Foundation/NSString.h"
-#include "log/Logger.h"
+#include "Logger.h"
+
+#include <Foundation/NSFileManager.h>
+#include <Foundation/NSString.h>
 
 namespace {
 
@@ -16,7 +17,7 @@ public:
     {
     }
 
-    // Throws unless `path` is the top directory, or lies in it when all links are followed.
+    // Throws unless `path` is the top folder, or lies in it when all links are followed.
     void requireInside(const std::string& path);
 
 private:
@@ -27,8 +28,8 @@ private:
 
     const std::string m_top;
     const std::string m_realTop;
-    // With a slash, a folder that no link leads to: it is inside, and so is all it lies in. Entries
-    // of one folder come together, and after them the folder itself.
+    // The last folder found to have no link on its path. It and its ancestors in the bundle need no
+    // second look.
     std::string m_known;
 };
 
@@ -47,19 +48,19 @@ void BundleBounds::requireInside(const std::string& path)
 
 }
 
-void ViewController::removeBundle(TopDirectory topDirectory, const Progress& progress)
+void UninstallTask::removeBundle(BundleTree::TopFolder topFolder, const Progress& progress) const
 {
     const NSFileManager& fileManager = NSFileManager::defaultManager();
     if (!fileManager.fileExistsAtPath(applicationDir + bundleDir))
         return;
 
-    const std::vector<File> files = listBundle(applicationDir, topDirectory);
+    const auto files = BundleTree::listBundle(applicationDir, bundleDir, topFolder);
     BundleBounds bounds(applicationDir, bundleDir);
     for (std::size_t k = 0; k < files.size(); ++k) {
-        const File& file = files[files.size() - 1 - k];
+        const BundleTree::File& file = files[files.size() - 1 - k];
         const std::string path = applicationDir + file.path;
-        report("remove " + path + (file.isDirectory ? "/" : ""));
-        if (!m_test) {
+        report().showMessage("remove " + path + (file.isDirectory ? "/" : ""));
+        if (!isDryRun()) {
             bounds.requireInside(path);
             NSError error;
             if (!fileManager.removeItemAtPath(path, &error))
@@ -70,15 +71,10 @@ void ViewController::removeBundle(TopDirectory topDirectory, const Progress& pro
     }
 }
 
-void ViewController::uninstallBundle()
+void UninstallTask::run() const
 {
     sharedLogger().log("uninstall bundle", Logger::LogLevel::normal);
-    try {
-        removeBundle(TopDirectory::include,
-            [this](std::int64_t index, std::int64_t count) { reportProgress(index, count); });
-    } catch (const NSError& error) {
-        reportFailure(error);
-        return;
-    }
-    reportSuccess(&ViewController::finish);
+    const auto progress
+        = [this](std::int64_t index, std::int64_t count) { report().setProgress(index, count); };
+    runToEnd([&] { removeBundle(BundleTree::TopFolder::include, progress); }, &TaskReport::finish);
 }

@@ -1,8 +1,8 @@
-#include "log/Logger.h"
+#include "Logger.h"
 
-#include "Foundation/NSDateFormatter.h"
-#include "Foundation/NSFileManager.h"
-#include "Foundation/NSProcessInfo.h"
+#include <Foundation/NSDateFormatter.h>
+#include <Foundation/NSFileManager.h>
+#include <Foundation/NSProcessInfo.h>
 
 namespace {
 
@@ -21,21 +21,7 @@ const std::string& timeStamp()
 
 char letterOf(Logger::LogLevel level)
 {
-    switch (level) {
-    case Logger::LogLevel::information:
-        return 'i';
-    case Logger::LogLevel::normal:
-        return 'n';
-    case Logger::LogLevel::warning:
-        return 'w';
-    case Logger::LogLevel::error:
-        return 'e';
-    case Logger::LogLevel::debug:
-        return 'd';
-    case Logger::LogLevel::trace:
-        return 't';
-    }
-    return 'n';
+    return "inwedt"[std::size_t(level)];
 }
 
 void replaceAll(std::string& text, const std::string& from, const std::string& to)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/NSFileHandle.h"
+#include <Foundation/NSFileHandle.h>
 
 #include <memory>
 #include <mutex>

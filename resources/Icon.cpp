@@ -1,4 +1,4 @@
-#include "resources/Icon.h"
+#include "Icon.h"
 
 #include <QPainter>
 #include <QPainterPath>

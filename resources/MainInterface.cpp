@@ -1,52 +1,64 @@
-#include "resources/MainInterface.h"
+#include "MainInterface.h"
 
-#include "AppKit/NSApplication.h"
-#include "AppKit/NSButton.h"
-#include "AppKit/NSLayoutConstraint.h"
-#include "AppKit/NSProgressIndicator.h"
-#include "AppKit/NSScrollView.h"
-#include "AppKit/NSTextField.h"
-#include "app/AppDelegate.h"
-#include "controller/ViewController.h"
-#include "resources/Icon.h"
-
+#include "AppDelegate.h"
+#include "Icon.h"
+#include "ViewController.h"
 #include "ui_MainInterface.h"
 
-#include <QFontDatabase>
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSButton.h>
 
-NSCoder openMainInterface()
+#include <QFontDatabase>
+#include <QStyle>
+
+namespace {
+
+constexpr double headingScale = 1.3; // of the font of the rest
+
+std::shared_ptr<NSWindow> load(NSApplication& application)
 {
-    auto* const window = new QWidget;
-    Ui::MainInterface interface;
-    interface.setupUi(window);
-    interface.resultText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    window->setWindowIcon(installerIcon());
-    return NSCoder(window);
+    application.setDelegate(std::make_shared<AppDelegate>());
+    const MainInterface interface;
+    interface.connect(ViewController::initWithCoder(interface));
+    return interface.window();
 }
 
-void connectMainInterface(const NSCoder& coder, const std::shared_ptr<ViewController>& controller)
-{
-    controller->progressIndicator = coder.decode<NSProgressIndicator>("progressIndicator");
-    controller->resultPainView = coder.decode<NSView>("resultPainView");
-    controller->resultPainViewHeightConstraint = coder.decode<NSLayoutConstraint>("resultPainView");
-    controller->resultTextScrollView = coder.decode<NSScrollView>("resultTextScrollView");
-    controller->resultText = coder.decode<NSTextField>("resultText");
+const NSMainInterface mainInterface(load);
 
-    const auto button = coder.decode<NSButton>("resultButton");
+}
+
+MainInterface::MainInterface()
+    : m_ui(std::make_unique<Ui::MainInterface>())
+{
+    m_ui->setupUi(&dialog());
+    dialog().setWindowIcon(installerIcon());
+    m_ui->resultText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    const QStyle& style = *dialog().style();
+    m_ui->resultSign->setPixmap(style.standardIcon(QStyle::SP_MessageBoxWarning)
+                                    .pixmap(style.pixelMetric(QStyle::PM_LargeIconSize)));
+    QFont heading = m_ui->productName->font();
+    heading.setPointSizeF(heading.pointSizeF() * headingScale);
+    m_ui->productName->setFont(heading);
+}
+
+MainInterface::~MainInterface() = default;
+
+void MainInterface::connect(const std::shared_ptr<ViewController>& controller) const
+{
+    controller->progressIndicator = viewOf(m_ui->progressIndicator);
+    controller->resultPainView = viewOf(m_ui->resultPainView);
+    controller->resultPainViewHeightConstraint = heightConstraintOf(m_ui->resultPainView);
+    const Text text = textOf(m_ui->resultText);
+    controller->resultTextScrollView = text.scrollView;
+    controller->resultText = text.field;
+
+    const auto button = viewOf(m_ui->resultButton);
     controller->resultButton = button;
     button->setAction([weak = std::weak_ptr(controller)](NSView* sender) {
         if (const auto target = weak.lock())
             target->resultButtonClicked(sender);
     });
 
-    coder.window()->setDefaultButton(button);
-    coder.window()->setContentViewController(controller);
-}
-
-std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application)
-{
-    application.setDelegate(std::make_shared<AppDelegate>());
-    const NSCoder coder = openMainInterface();
-    connectMainInterface(coder, ViewController::initWithCoder(coder));
-    return coder.window();
+    window()->setDefaultButton(button);
+    window()->setContentViewController(controller);
 }

@@ -1,14 +1,27 @@
 #pragma once
 
-#include "AppKit/NSCoder.h"
+#include "InterfaceQt.h"
 
 #include <memory>
 
 class ViewController;
 
-// The window that the interface file describes, not connected to anything yet.
-NSCoder openMainInterface();
+namespace Ui {
+class MainInterface;
+}
 
-// All connections between the interface file and the program. The controller becomes the window's
-// own and starts.
-void connectMainInterface(const NSCoder& coder, const std::shared_ptr<ViewController>& controller);
+// The interface file: the window, its parts, and all that connects them to the program.
+class MainInterface : public InterfaceQt {
+public:
+    // Nothing is connected yet.
+    MainInterface();
+    ~MainInterface();
+    MainInterface(const MainInterface&) = delete;
+    MainInterface& operator=(const MainInterface&) = delete;
+
+    // The controller becomes the window's own and starts.
+    void connect(const std::shared_ptr<ViewController>& controller) const;
+
+private:
+    const std::unique_ptr<Ui::MainInterface> m_ui;
+};

@@ -1,4 +1,4 @@
-#include "AppKit/NSAnimationContext.h"
+#include <AppKit/NSAnimationContext.h>
 
 #include <vector>
 

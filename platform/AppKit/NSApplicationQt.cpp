@@ -1,34 +1,90 @@
-#include "AppKit/NSApplication.h"
+#include <AppKit/NSApplication.h>
+
+#include "DispatchActivation.h"
+
+#include <AppKit/NSWindow.h>
 
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 
 #include <array>
+#include <cassert>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
-// Without a display Qt ends the program with advice about plugins. Better to say what is missing.
-void requireDisplay()
+NSMainInterface::Load& mainInterface()
 {
-    for (const char* const variable : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
-        if (std::getenv(variable))
-            return;
-    std::fputs("There is no display to open a window on: DISPLAY is not set.\n", stderr);
-    std::exit(EXIT_FAILURE);
+    static NSMainInterface::Load load = nullptr;
+    return load;
 }
 
-// Where no session bus is said to be, the bus library would start one. What is left is to look
-// where the session's own would be.
-void keepFromStartingABus()
+// What is written to a standard descriptor that was closed would end up in the next file opened.
+void openStandardDescriptors()
 {
-    constexpr int keep = 0; // what is said
+    int lowest = 0;
+    do
+        lowest = open("/dev/null", O_RDWR);
+    while (lowest >= 0 && lowest <= STDERR_FILENO);
+    close(lowest);
+}
+
+// Without an address the bus library would launch a bus.
+void keepFromLaunchingABus()
+{
+    constexpr int keep = 0; // an address that is there
     setenv("DBUS_SESSION_BUS_ADDRESS", "unix:runtime=yes", keep);
 }
 
+std::string missingDisplay()
+{
+    const auto valueOf = [](const char* name) {
+        const char* const value = std::getenv(name);
+        return std::string(value ? value : "");
+    };
+    const std::string wayland = valueOf("WAYLAND_DISPLAY");
+    const std::string display = valueOf("DISPLAY");
+    if (!wayland.empty())
+        return "on the Wayland display “" + wayland + "”: install the package qt6-wayland.";
+    if (!display.empty())
+        return "on the display “" + display + "”: check that DISPLAY names a running X server.";
+    return "without a display: start it in a desktop session, or set DISPLAY.";
+}
+
+// Where Qt can't have a display it ends the program with advice on plugins. Better to say what is
+// missing, and to drop the warnings that lead up to it.
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString&)
+{
+    if (type != QtFatalMsg)
+        return;
+    std::fputs(("The window can’t be opened " + missingDisplay() + "\n").c_str(), stderr);
+    _exit(EXIT_FAILURE);
+}
+
+// What is only marked for the next frame is not on the screen when a task puts this thread to
+// sleep. A desktop that shows no window is not waited for long: a run needs nobody to look at it.
+void drawFirstFrame()
+{
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(std::chrono::seconds(1));
+    QWidget& window = *QApplication::topLevelWidgets().first();
+    while (!window.windowHandle()->isExposed() && patience.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    window.repaint();
+}
+
+}
+
+NSMainInterface::NSMainInterface(Load load)
+{
+    mainInterface() = load;
 }
 
 NSApplication& NSApplication::sharedApplication()
@@ -52,35 +108,40 @@ void NSApplication::activateIgnoringOtherApps()
     });
 }
 
-void NSApplication::lastWindowClosed()
+void NSApplication::terminate()
 {
-    if (!m_delegate->applicationShouldTerminateAfterLastWindowClosed(*this))
-        return;
     m_delegate->applicationWillTerminate();
     // Not exit(): a task may still be at work with what that would destroy.
-    _exit(0);
+    _exit(EXIT_SUCCESS);
 }
 
-int NSApplication::run(const std::shared_ptr<NSWindow>& mainWindow)
+int NSApplication::run()
 {
+    assert(mainInterface());
+    const std::shared_ptr<NSWindow> window = mainInterface()(*this);
     QApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(qApp, &QApplication::lastWindowClosed, [this] { lastWindowClosed(); });
+    QObject::connect(qApp, &QApplication::lastWindowClosed, [this] {
+        if (m_delegate->applicationShouldTerminateAfterLastWindowClosed(*this))
+            terminate();
+    });
     m_delegate->applicationDidFinishLaunching();
-    mainWindow->makeKeyAndOrderFront();
+    window->makeKeyAndOrderFront();
+    drawFirstFrame();
+    activateDispatchQueues();
     return QApplication::exec();
 }
 
 int NSApplicationMain(int argc, const char* const argv[])
 {
-    requireDisplay();
-    keepFromStartingABus();
+    openStandardDescriptors();
+    keepFromLaunchingABus();
 
-    // The arguments are the program's own: from more than its name Qt would take what it knows.
+    // Qt gets only argv[0]; the program reads its arguments through NSProcessInfo.
     std::string name = argc > 0 ? argv[0] : "";
     std::array<char*, 2> qtArguments { name.data(), nullptr };
     int qtCount = 1;
+    const QtMessageHandler usual = qInstallMessageHandler(explainMissingDisplay);
     const QApplication qtApplication(qtCount, qtArguments.data());
-
-    NSApplication& application = NSApplication::sharedApplication();
-    return application.run(loadMainInterface(application));
+    qInstallMessageHandler(usual);
+    return NSApplication::sharedApplication().run();
 }

@@ -1,53 +1,101 @@
-#include "AppKit/NSLayoutConstraint.h"
+#include <AppKit/NSLayoutConstraint.h>
 
-#include "AppKit/NSAnimationContext.h"
+#include "InterfaceQt.h"
 
+#include <AppKit/NSAnimationContext.h>
+
+#include <QScreen>
 #include <QVariantAnimation>
-#include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
-NSLayoutConstraint::NSLayoutConstraint(QWidget* widget)
-    : m_widget(widget)
-    , m_animation(std::make_unique<QVariantAnimation>())
+namespace {
+
+class HeightConstraintQt : public NSLayoutConstraint {
+public:
+    explicit HeightConstraintQt(QWidget* widget);
+
+    CGFloat constant() const override { return m_constant; }
+    void setConstant(CGFloat constant) override;
+
+private:
+    void animateConstant(CGFloat constant) override;
+    CGFloat prepare(CGFloat constant);
+    void setHeight(int height);
+    void release();
+
+    QWidget& m_widget;
+    QVariantAnimation m_animation;
+    CGFloat m_constant;
+};
+
+HeightConstraintQt::HeightConstraintQt(QWidget* widget)
+    : m_widget(*widget)
     , m_constant(widget->minimumHeight())
 {
-    m_animation->setEasingCurve(QEasingCurve::InOutQuad);
-    QObject::connect(m_animation.get(), &QVariantAnimation::valueChanged,
+    m_animation.setEasingCurve(QEasingCurve::InOutQuad);
+    QObject::connect(&m_animation, &QVariantAnimation::valueChanged,
         [this](const QVariant& height) { setHeight(int(std::lround(height.toDouble()))); });
-    QObject::connect(m_animation.get(), &QVariantAnimation::finished, [this] { release(); });
 }
 
-NSLayoutConstraint::~NSLayoutConstraint() = default;
-
-void NSLayoutConstraint::setConstant(CGFloat constant)
+void HeightConstraintQt::setConstant(CGFloat constant)
 {
-    m_animation->stop();
-    m_constant = constant;
-    setHeight(int(std::lround(constant)));
+    m_animation.stop();
+    setHeight(int(std::lround(prepare(constant))));
     release();
 }
 
-void NSLayoutConstraint::Animator::setConstant(CGFloat constant)
+void HeightConstraintQt::animateConstant(CGFloat constant)
 {
-    const double seconds = NSAnimationContext::currentContext().duration();
-    QVariantAnimation& animation = *m_constraint.m_animation;
-    animation.stop();
-    animation.setStartValue(std::exchange(m_constraint.m_constant, constant));
-    animation.setEndValue(constant);
-    animation.setDuration(int(std::lround(seconds * 1000)));
-    animation.start();
+    const NSAnimationContext& context = NSAnimationContext::currentContext();
+    m_animation.stop();
+    m_animation.setStartValue(m_widget.isHidden() ? 0.0 : double(m_widget.height()));
+    m_animation.setEndValue(prepare(constant));
+    m_animation.setDuration(int(std::lround(context.duration() * 1000)));
+    QObject::connect(
+        &m_animation, &QVariantAnimation::finished, &m_animation,
+        [this, handler = context.completionHandler()] {
+            release();
+            handler();
+        },
+        Qt::SingleShotConnection);
+    m_animation.start();
 }
 
-void NSLayoutConstraint::setHeight(int height)
+// Notes the constant, and makes room for it on the screen: the height there is, and a place for the
+// window from which it doesn't grow over the screen's lower edge.
+CGFloat HeightConstraintQt::prepare(CGFloat constant)
 {
-    m_widget->setFixedHeight(height);
-    m_widget->setVisible(height > 0);
+    m_constant = constant;
+    QWidget& window = *m_widget.window();
+    const QRect screen = window.screen()->availableGeometry();
+    const QRect frame = window.frameGeometry();
+    const int old = m_widget.isHidden() ? 0 : m_widget.height();
+    const int rest = frame.height() - old;
+    const double height = std::min(constant, double(std::max(0, screen.height() - rest)));
+    const int overlap = frame.top() + rest + int(height) - 1 - screen.bottom();
+    if (window.isVisible() && overlap > 0)
+        window.move(frame.left(), std::max(screen.top(), frame.top() - overlap));
+    return height;
 }
 
-// Lets the person make an open part higher.
-void NSLayoutConstraint::release()
+void HeightConstraintQt::setHeight(int height)
+{
+    m_widget.setFixedHeight(height);
+    m_widget.setVisible(height > 0);
+}
+
+// Lets the person make an open part higher, and a screen that is smaller than the part lower.
+void HeightConstraintQt::release()
 {
     if (m_constant > 0)
-        m_widget->setMaximumHeight(QWIDGETSIZE_MAX);
+        m_widget.setMaximumHeight(QWIDGETSIZE_MAX);
+}
+
+}
+
+std::shared_ptr<NSLayoutConstraint> InterfaceQt::heightConstraintOf(QWidget* widget) const
+{
+    return keep(std::make_shared<HeightConstraintQt>(widget));
 }

@@ -1,7 +1,7 @@
-#include "AppKit/NSViewController.h"
+#include <AppKit/NSViewController.h>
 
-#include "AppKit/NSCoder.h"
-#include "AppKit/NSWindow.h"
+#include <AppKit/NSCoder.h>
+#include <AppKit/NSWindow.h>
 
 bool NSViewController::initWithCoder(const NSCoder& coder)
 {

@@ -1,86 +1,95 @@
-#include "AppKit/NSWindow.h"
+#include "ButtonQt.h"
+#include "WindowQt.h"
 
-#include "AppKit/NSButton.h"
-#include "AppKit/NSViewController.h"
+#include <AppKit/NSViewController.h>
 
-#include <QEvent>
-#include <QShortcut>
+#include <QKeyEvent>
 #include <QVariant>
-#include <QWidget>
-
-#include <functional>
 
 namespace {
 
 constexpr const char* windowProperty = "NSWindow";
 
-// What the person does to the window itself, as opposed to the program, goes to the button.
-class CloseControl : public QObject {
+}
+
+// What a person does to the window itself goes to its button.
+class WindowQt::DefaultButton : public QObject {
 public:
-    CloseControl(QWidget* window, std::function<void()> press)
+    DefaultButton(QObject* window, const std::shared_ptr<ButtonQt>& button)
         : QObject(window)
-        , m_press(std::move(press))
+        , m_button(button)
     {
         window->installEventFilter(this);
     }
 
+    void enableKeys()
+    {
+        m_hasKeys = true;
+        if (const auto button = m_button.lock())
+            button->takeKeyboard();
+    }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::Close || !event->spontaneous())
+        const bool isEscape = event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+        const bool isCloseControl = event->type() == QEvent::Close && event->spontaneous();
+        if (!isEscape && !isCloseControl)
             return QObject::eventFilter(watched, event);
         event->ignore();
-        m_press();
+        const auto button = m_button.lock();
+        if (button && (m_hasKeys || isCloseControl))
+            button->performClick();
         return true;
     }
 
 private:
-    const std::function<void()> m_press;
+    const std::weak_ptr<ButtonQt> m_button;
+    bool m_hasKeys = false;
 };
 
-}
-
-NSWindow::NSWindow(QWidget* widget)
-    : m_widget(widget)
-    , m_contentView(std::make_shared<NSView>(widget))
+// A dialog to a screen reader, but with the controls of a window.
+WindowQt::WindowQt()
+    : m_dialog(std::make_unique<QDialog>(nullptr, Qt::Window))
+    , m_contentView(std::make_shared<ViewQt<NSView, QWidget>>(m_dialog.get()))
 {
-    m_widget->setProperty(windowProperty, QVariant::fromValue<void*>(this));
+    m_dialog->setProperty(windowProperty, QVariant::fromValue<void*>(static_cast<NSWindow*>(this)));
 }
 
-NSWindow::~NSWindow() = default;
+WindowQt::~WindowQt() = default;
 
-NSWindow* NSWindow::ofWidget(const QWidget* widget)
+NSWindow* WindowQt::ofWidget(const QWidget& widget)
 {
-    return static_cast<NSWindow*>(widget->window()->property(windowProperty).value<void*>());
+    return static_cast<NSWindow*>(widget.window()->property(windowProperty).value<void*>());
 }
 
-void NSWindow::own(std::shared_ptr<void> part)
+void WindowQt::setTitle(const std::string& title)
 {
-    m_parts.push_back(std::move(part));
+    m_dialog->setWindowTitle(QString::fromStdString(title));
 }
 
-void NSWindow::setContentViewController(std::shared_ptr<NSViewController> controller)
+void WindowQt::setContentViewController(std::shared_ptr<NSViewController> controller)
 {
     m_contentViewController = std::move(controller);
     m_contentViewController->viewDidLoad();
 }
 
-void NSWindow::setDefaultButton(const std::shared_ptr<NSButton>& button)
+void WindowQt::setDefaultButton(const std::shared_ptr<NSButton>& button)
 {
-    const auto press = [weak = std::weak_ptr(button)] {
-        if (const auto pressed = weak.lock())
-            pressed->performClick();
-    };
-    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space })
-        QObject::connect(new QShortcut(key, m_widget.get()), &QShortcut::activated, press);
-    new CloseControl(m_widget.get(), press);
+    m_defaultButton = new DefaultButton(m_dialog.get(), std::static_pointer_cast<ButtonQt>(button));
 }
 
-void NSWindow::makeKeyAndOrderFront()
+void WindowQt::enableKeyEquivalentForDefaultButton()
 {
-    m_widget->show();
+    m_defaultButton->enableKeys();
 }
 
-void NSWindow::close()
+void WindowQt::makeKeyAndOrderFront()
 {
-    m_widget->close();
+    m_dialog->show();
+}
+
+void WindowQt::close()
+{
+    m_dialog->close();
 }

@@ -1,13 +1,13 @@
-#include "DiskArbitration/DADisk.h"
+#include <DiskArbitration/DADisk.h>
 
-#include "DiskArbitration/DASessionUDisks2.h"
-#include "Dispatch/DispatchQueue.h"
+#include "DASessionUDisks2.h"
+
+#include <Dispatch/DispatchQueue.h>
 
 #include <QDBusArgument>
 
 #include <algorithm>
 #include <chrono>
-#include <optional>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -50,16 +50,17 @@ public:
     // `volume` is the block device with the file system.
     DADisk(DASessionRef session, const UDisks2::Objects& objects, const QDBusObjectPath& volume);
 
-    // Throw a DADissenter.
-    void unmount() const { m_session->service().call(m_volume, filesystemInterface, "Unmount"); }
-    void eject() const;
+    // Whether it was granted.
+    bool unmount() const { return service().call(m_volume, filesystemInterface, "Unmount"); }
+    bool eject() const { return m_image.empty() ? ejectDrive() : detachImage(); }
 
     const DASessionRef& session() const { return m_session; }
 
 private:
-    bool isImageAttached() const;
-    void detachImage() const;
-    void ejectDrive() const;
+    const UDisks2& service() const { return m_session->service(); }
+    bool isImageAttached(const UDisks2::Objects& objects) const;
+    bool detachImage() const;
+    bool ejectDrive() const;
 
     const DASessionRef m_session;
     const QDBusObjectPath m_volume;
@@ -80,60 +81,48 @@ DADisk::DADisk(DASessionRef session, const UDisks2::Objects& objects, const QDBu
     m_image = pathProperty(objects.value(m_wholeDisk), loopInterface, "BackingFile");
 }
 
-void DADisk::eject() const
+// The device may have got another image meanwhile. That of a file which has been deleted meanwhile
+// goes by its old name and " (deleted)".
+bool DADisk::isImageAttached(const UDisks2::Objects& objects) const
 {
-    if (m_image.empty())
-        ejectDrive();
-    else
-        detachImage();
+    return pathProperty(objects.value(m_wholeDisk), loopInterface, "BackingFile")
+        .starts_with(m_image);
 }
 
-void DADisk::detachImage() const
+bool DADisk::detachImage() const
 {
-    if (!isImageAttached())
-        return;
-    DADissenter refusal { kDAReturnBusy, "The disk image is in use" };
-    try {
-        m_session->service().call(m_wholeDisk, loopInterface, "Delete");
-    } catch (const DADissenter& dissenter) {
-        refusal = dissenter;
-    }
-
-    // The answer tells nothing: it is yes for a device that is in use and keeps its image, and no
-    // for one that has let go of it by itself after the unmount.
     const auto limit = std::chrono::steady_clock::now() + detachLimit;
-    while (isImageAttached()) {
+    for (bool isAsked = false;; isAsked = true) {
+        const auto objects = service().objects();
+        if (!objects)
+            return false;
+        if (!isImageAttached(*objects))
+            return true;
         if (std::chrono::steady_clock::now() > limit)
-            throw refusal;
+            return false;
+        // The answer tells nothing: it is yes for a device that is in use and keeps its image, and
+        // no for one that has let go of it by itself after the unmount.
+        if (!isAsked)
+            service().call(m_wholeDisk, loopInterface, "Delete");
         std::this_thread::sleep_for(detachInterval);
     }
 }
 
-// The device may have got another image meanwhile. That of a file which has been deleted meanwhile
-// goes by its old name and " (deleted)".
-bool DADisk::isImageAttached() const
+bool DADisk::ejectDrive() const
 {
-    const auto disk = m_session->service().objects().value(m_wholeDisk);
-    return pathProperty(disk, loopInterface, "BackingFile").starts_with(m_image);
-}
-
-void DADisk::ejectDrive() const
-{
-    const auto drive = m_session->service().objects().value(m_drive);
-    if (!property<bool>(drive, driveInterface, "Ejectable"))
-        throw DADissenter { kDAReturnUnsupported, "The disk can't be ejected" };
-    m_session->service().call(m_drive, driveInterface, "Eject");
+    const auto objects = service().objects();
+    return objects && property<bool>(objects->value(m_drive), driveInterface, "Ejectable")
+        && service().call(m_drive, driveInterface, "Eject");
 }
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session, const NSURL& path)
 {
-    try {
-        const UDisks2::Objects objects = session->service().objects();
-        for (auto object = objects.begin(); object != objects.end(); ++object) {
-            if (isMountedAt(object.value(), path.path()))
-                return std::make_shared<DADisk>(session, objects, object.key());
-        }
-    } catch (const DADissenter&) {
+    const auto objects = session->service().objects();
+    if (!objects)
+        return nullptr;
+    for (auto object = objects->begin(); object != objects->end(); ++object) {
+        if (isMountedAt(object.value(), path.path()))
+            return std::make_shared<DADisk>(session, *objects, object.key());
     }
     return nullptr;
 }
@@ -141,18 +130,15 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session
 namespace {
 
 // On a thread of its own, as the calls to the service wait for their answers.
-void request(const DADiskRef& disk, void (DADisk::*work)() const, DADiskUnmountCallback callback,
+void request(const DADiskRef& disk, bool (DADisk::*work)() const, DADiskUnmountCallback callback,
     void* context)
 {
     DispatchQueue::global().async([=] {
-        std::optional<DADissenter> dissenter;
-        try {
-            (disk.get()->*work)();
-        } catch (const DADissenter& refusal) {
-            dissenter = refusal;
-        }
-        disk->session()->deliver(
-            [=] { callback(disk, dissenter ? &*dissenter : nullptr, context); });
+        const bool isGranted = (disk.get()->*work)();
+        disk->session()->deliver([=] {
+            const DADissenter dissenter;
+            callback(disk, isGranted ? nullptr : &dissenter, context);
+        });
     });
 }
 

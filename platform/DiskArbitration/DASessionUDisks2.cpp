@@ -1,15 +1,16 @@
-#include "DiskArbitration/DASessionUDisks2.h"
+#include "DASessionUDisks2.h"
+
+#include <Dispatch/DispatchQueue.h>
 
 void DASession::deliver(std::function<void()> callback)
 {
-    auto* const runLoop = m_runLoop.load();
-    if (!runLoop)
+    if (!m_runLoop)
         return;
-    CFRunLoopPerformBlock(runLoop, kCFRunLoopDefaultMode,
-        [session = shared_from_this(), callback = std::move(callback)] {
-            if (session->m_runLoop)
-                callback();
-        });
+    // The one loop there is runs the main queue.
+    DispatchQueue::main().async([session = shared_from_this(), callback = std::move(callback)] {
+        if (session->m_runLoop)
+            callback();
+    });
 }
 
 DASessionRef DASessionCreate(CFAllocatorRef)

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "DiskArbitration/DASession.h"
-#include "DiskArbitration/UDisks2Qt.h"
+#include "UDisks2.h"
+
+#include <DiskArbitration/DASession.h>
 
 #include <atomic>
 #include <functional>

@@ -1,21 +1,23 @@
-#include "Dispatch/DispatchQueue.h"
+#include <Dispatch/DispatchQueue.h>
 
-#include "Dispatch/MainQueue.h"
+#include "DispatchActivation.h"
+#include "FileDescriptor.h"
+#include "MainQueue.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
+#include <latch>
 #include <sys/eventfd.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 
 // Readable while the main thread is asked to run its queue.
 int wakeUpEvent()
 {
-    static const int descriptor = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    return descriptor;
+    static const FileDescriptor event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    return event.number();
 }
 
 MainQueue& mainQueue()
@@ -25,7 +27,7 @@ MainQueue& mainQueue()
     return *queue;
 }
 
-// Makes the loop of the main thread run the queue, as soon as there is a loop.
+// Makes the loop of the main thread run the queue.
 void attachToMainLoop()
 {
     auto* const notifier
@@ -37,11 +39,21 @@ void attachToMainLoop()
     });
 }
 
-Q_COREAPP_STARTUP_FUNCTION(attachToMainLoop)
+std::latch& activation()
+{
+    static auto* const latch = new std::latch(1);
+    return *latch;
+}
 
 class GlobalQueue : public DispatchQueue {
 public:
-    void async(std::function<void()> work) override { std::thread(std::move(work)).detach(); }
+    void async(std::function<void()> work) override
+    {
+        std::thread([work = std::move(work)] {
+            activation().wait();
+            work();
+        }).detach();
+    }
 };
 
 }
@@ -55,4 +67,10 @@ DispatchQueue& DispatchQueue::global()
 {
     static GlobalQueue queue;
     return queue;
+}
+
+void activateDispatchQueues()
+{
+    attachToMainLoop();
+    activation().count_down();
 }

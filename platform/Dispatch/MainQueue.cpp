@@ -1,5 +1,8 @@
-#include "Dispatch/MainQueue.h"
+#include "MainQueue.h"
 
+#include <Foundation/NSThread.h>
+
+#include <cassert>
 #include <chrono>
 #include <utility>
 
@@ -41,6 +44,7 @@ void MainQueue::async(std::function<void()> work)
 
 void MainQueue::sync(const std::function<void()>& work)
 {
+    assert(!NSThread::isMainThread());
     static thread_local const auto completion = std::make_shared<Completion>();
     completion->isDone.clear();
     add({ [&work] { work(); }, completion });
@@ -62,6 +66,7 @@ void MainQueue::add(Item item)
 
 void MainQueue::run()
 {
+    assert(NSThread::isMainThread());
     const auto end = Clock::now() + frame;
     do {
         while (runNext()) {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "Dispatch/DispatchQueue.h"
-#include "Dispatch/ShortWait.h"
+#include "ShortWait.h"
+
+#include <Dispatch/DispatchQueue.h>
 
 #include <atomic>
 #include <deque>

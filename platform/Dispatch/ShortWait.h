@@ -4,14 +4,14 @@
 #include <chrono>
 
 // Waking a thread that sleeps on another core costs several times what a hand-over itself does. So
-// a thread that waits for another looks on first, for as long as a file or the log usually needs.
-// Each time that was in vain it looks on less often, or on a machine with other work to do the two
-// would wait for a core that the one is only looking from; it then looks for no longer than the
-// other needs to wake up. With one core it goes to sleep at once.
-// One thread at a time.
+// a thread that waits for another polls first, for as long as a file or the log usually needs.
+//
+// Polls for 1 ms before it sleeps. After a poll in vain the next 1, 3, 7 … 255 waits poll for 50
+// µs, the cost of one wake-up, so that a busy machine keeps its cores. With one core it sleeps at
+// once. One thread at a time.
 class ShortWait {
 public:
-    // Whether `isOver` came true while it looked on. If not, the caller sleeps.
+    // Whether `isOver` came true while it was polled. If not, the caller sleeps.
     template <class Condition> bool spinUntil(const Condition& isOver)
     {
         if (!hasOtherCore())
@@ -32,7 +32,7 @@ private:
 
     static constexpr std::chrono::microseconds wakingUp { 50 };
     static constexpr std::chrono::microseconds usualWork { 1000 };
-    static constexpr int looksPerClockReading = 32;
+    static constexpr int pollsPerClockReading = 32;
     static constexpr int mostRests = 255;
 
     static bool hasOtherCore();
@@ -42,7 +42,7 @@ private:
     {
         const auto end = Clock::now() + limit;
         do {
-            for (int i = 0; i < looksPerClockReading; ++i) {
+            for (int i = 0; i < pollsPerClockReading; ++i) {
                 if (isOver())
                     return true;
                 relax();
@@ -51,6 +51,6 @@ private:
         return false;
     }
 
-    int m_rests = 0; // how many times from now on it looks for the shorter time
+    int m_rests = 0; // how many waits from now on poll for the shorter time
     int m_failures = 0;
 };

@@ -1,4 +1,4 @@
-#include "Dispatch/ShortWait.h"
+#include "ShortWait.h"
 
 #include <sched.h>
 

@@ -1,4 +1,4 @@
-#include "Foundation/FileAttributesPOSIX.h"
+#include "FileAttributes.h"
 
 #include <array>
 #include <cerrno>
@@ -19,27 +19,30 @@ AttributeKind kindOf(const std::string& name)
                                                  : AttributeKind::plain;
 }
 
-bool isNoFailure(int number)
+// Of an attribute that may be left out.
+bool isNoFailure(std::error_code error)
 {
+    const int number = error.value();
     return number == ENOTSUP || number == EPERM || number == EACCES || number == ENOSPC
         || number == ENODATA;
 }
 
 // The names of all extended attributes, each followed by a NUL byte.
-std::string attributeNames(int file)
+std::string attributeNames(const FileDescriptor& file)
 {
     std::array<char, 256> few {};
-    ssize_t size = flistxattr(file, few.data(), few.size());
+    ssize_t size = flistxattr(file.number(), few.data(), few.size());
     if (size >= 0)
         return { few.data(), std::size_t(size) };
 
     std::string many(XATTR_LIST_MAX, '\0');
-    size = flistxattr(file, many.data(), many.size());
+    size = flistxattr(file.number(), many.data(), many.size());
     many.resize(size < 0 ? 0 : std::size_t(size));
     return many;
 }
 
-int copyAttributes(int from, int to, const std::string& names, AttributeKind kind)
+std::error_code copyAttributes(const FileDescriptor& from, const FileDescriptor& to,
+    const std::string& names, AttributeKind kind)
 {
     std::string value;
     for (std::size_t start = 0; start < names.size();) {
@@ -48,29 +51,32 @@ int copyAttributes(int from, int to, const std::string& names, AttributeKind kin
         if (kindOf(name) != kind)
             continue;
         value.resize(XATTR_SIZE_MAX);
-        const ssize_t size = fgetxattr(from, name.c_str(), value.data(), value.size());
-        const bool failed
-            = size < 0 || fsetxattr(to, name.c_str(), value.data(), std::size_t(size), 0) < 0;
-        if (failed && !isNoFailure(errno))
-            return errno;
+        const ssize_t size = fgetxattr(from.number(), name.c_str(), value.data(), value.size());
+        std::error_code error = errorOf(size);
+        if (!error)
+            error
+                = errorOf(fsetxattr(to.number(), name.c_str(), value.data(), std::size_t(size), 0));
+        if (error && !isNoFailure(error))
+            return error;
     }
-    return 0;
+    return {};
 }
 
 }
 
-int copyFileAttributes(int from, const struct stat& status, int to)
+std::error_code copyFileAttributes(
+    const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
     // In this order nothing undoes what was done before it: a change of owner drops capabilities, a
     // mode without write permission refuses attributes, a mode overwrites a list's mask.
     const std::string names = attributeNames(from);
-    [[maybe_unused]] const int ownerMayStay = fchown(to, status.st_uid, status.st_gid);
-    if (const int number = copyAttributes(from, to, names, AttributeKind::plain))
-        return number;
-    if (fchmod(to, status.st_mode & modeWithoutSetIDs) < 0)
-        return errno;
-    if (const int number = copyAttributes(from, to, names, AttributeKind::accessControlList))
-        return number;
+    [[maybe_unused]] const int ownerMayStay = fchown(to.number(), status.st_uid, status.st_gid);
+    if (const auto error = copyAttributes(from, to, names, AttributeKind::plain))
+        return error;
+    if (const auto error = errorOf(fchmod(to.number(), status.st_mode & modeWithoutSetIDs)))
+        return error;
+    if (const auto error = copyAttributes(from, to, names, AttributeKind::accessControlList))
+        return error;
     const std::array<timespec, 2> times { status.st_atim, status.st_mtim };
-    return futimens(to, times.data()) < 0 ? errno : 0;
+    return errorOf(futimens(to.number(), times.data()));
 }

@@ -1,13 +1,12 @@
-#include "Foundation/FileCopyPOSIX.h"
+#include "FileCopy.h"
 
-#include "Foundation/ErrorPOSIX.h"
-#include "Foundation/FileAttributesPOSIX.h"
-#include "Foundation/FileDataPOSIX.h"
-#include "Foundation/FileDescriptorPOSIX.h"
-#include "Foundation/NewFilePOSIX.h"
+#include "ErrorText.h"
+#include "FileAttributes.h"
+#include "FileData.h"
+#include "FileDescriptor.h"
+#include "NewFile.h"
 
 #include <array>
-#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -32,15 +31,15 @@ private:
     bool copySpecialFile(const struct stat& status) const;
     void copyOwnerAndTimes(const struct stat& status) const;
 
-    bool failToRead(int number) const
+    bool failToRead(std::error_code reason) const
     {
-        return failBecause(m_error, quoted(m_source) + " couldn’t be read", number);
+        return failBecause(m_error, quoted(m_source) + " couldn’t be read", reason);
     }
-    bool failToCopy(int number) const
+    bool failToCopy(std::error_code reason) const
     {
         const std::string what
             = quoted(m_source) + " couldn’t be copied to " + quoted(m_destination);
-        return failBecause(m_error, what, number);
+        return failBecause(m_error, what, reason);
     }
 
     const std::string& m_source;
@@ -52,14 +51,14 @@ bool ItemCopy::run() const
 {
     struct stat status = {};
     if (lstat(m_source.c_str(), &status) < 0)
-        return failToRead(errno);
+        return failToRead(lastError());
     switch (status.st_mode & S_IFMT) {
     case S_IFREG:
         return copyFile(status);
     case S_IFLNK:
         return copyLink(status);
     case S_IFDIR:
-        return failToCopy(EISDIR);
+        return failToCopy(make_error_code(std::errc::is_a_directory));
     default:
         return copySpecialFile(status);
     }
@@ -71,17 +70,17 @@ bool ItemCopy::copyFile(const struct stat& status) const
     const FileDescriptor from(
         open(m_source.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!from.isOpen())
-        return failToRead(errno);
+        return failToRead(lastError());
 
     NewFile copy(m_destination);
-    int number = copy.error();
-    if (number == 0)
-        number = copyFileData(from.number(), status, copy.descriptor());
-    if (number == 0)
-        number = copyFileAttributes(from.number(), status, copy.descriptor());
-    if (number == 0)
-        number = copy.publish();
-    return number == 0 || failToCopy(number);
+    auto error = copy.error();
+    if (!error)
+        error = copyFileData(from, status, copy.descriptor());
+    if (!error)
+        error = copyFileAttributes(from, status, copy.descriptor());
+    if (!error)
+        error = copy.publish();
+    return !error || failToCopy(error);
 }
 
 bool ItemCopy::copyLink(const struct stat& status) const
@@ -89,9 +88,9 @@ bool ItemCopy::copyLink(const struct stat& status) const
     std::error_code code;
     const std::filesystem::path target = std::filesystem::read_symlink(m_source, code);
     if (code)
-        return failToRead(code.value());
+        return failToRead(code);
     if (symlink(target.c_str(), m_destination.c_str()) < 0)
-        return failToCopy(errno);
+        return failToCopy(lastError());
     copyOwnerAndTimes(status);
     return true;
 }
@@ -102,7 +101,7 @@ bool ItemCopy::copySpecialFile(const struct stat& status) const
     const mode_t permissions = status.st_mode & 0777;
     if (mknod(m_destination.c_str(), (status.st_mode & S_IFMT) | permissions, status.st_rdev) < 0
         || chmod(m_destination.c_str(), permissions) < 0)
-        return failToCopy(errno);
+        return failToCopy(lastError());
     copyOwnerAndTimes(status);
     return true;
 }

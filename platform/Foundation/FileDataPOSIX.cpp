@@ -1,9 +1,10 @@
-#include "Foundation/FileDataPOSIX.h"
+#include "FileData.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -11,92 +12,115 @@
 namespace {
 
 constexpr off_t bufferSize = 0x20000; // bytes
-constexpr off_t toTheEnd = 0;
+using Buffer = std::array<char, bufferSize>;
 
-bool clone(int from, const struct stat& status, int to)
+Buffer& sharedBuffer()
+{
+    static thread_local Buffer buffer;
+    return buffer;
+}
+
+bool clone(const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
     // One refusal speaks for the volume: a run copies from one folder into one other.
     static thread_local dev_t refusingVolume = 0;
     if (status.st_dev == refusingVolume)
         return false;
-    if (ioctl(to, FICLONE, from) == 0)
+    if (ioctl(to.number(), FICLONE, from.number()) == 0)
         return true;
     refusingVolume = status.st_dev;
     return false;
 }
 
-int writeAll(int to, off_t offset, const char* data, off_t size)
+std::error_code writeAll(const FileDescriptor& to, off_t offset, const char* data, off_t size)
 {
     while (size > 0) {
-        const ssize_t written = pwrite(to, data, std::size_t(size), offset);
+        const ssize_t written = pwrite(to.number(), data, std::size_t(size), offset);
         if (written < 0)
-            return errno;
+            return lastError();
         data += written;
         offset += written;
         size -= written;
     }
-    return 0;
+    return {};
 }
 
-int readAndWrite(int from, int to, off_t offset, off_t length)
+// One piece of at most `limit` bytes. Moves `offset` past it, not at all at the end of the file.
+std::error_code copyPiece(
+    const FileDescriptor& from, const FileDescriptor& to, off_t& offset, off_t limit)
 {
-    static thread_local std::array<char, bufferSize> buffer;
-    const off_t end = offset + length;
-    while (length == toTheEnd || offset < end) {
-        const off_t wanted = length == toTheEnd ? bufferSize : std::min(bufferSize, end - offset);
-        const ssize_t size = pread(from, buffer.data(), std::size_t(wanted), offset);
-        if (size <= 0)
-            return size < 0 ? errno : 0;
-        if (const int number = writeAll(to, offset, buffer.data(), size))
-            return number;
-        offset += size;
-    }
-    return 0;
+    Buffer& buffer = sharedBuffer();
+    const auto wanted = std::size_t(std::min(bufferSize, limit));
+    const ssize_t size = pread(from.number(), buffer.data(), wanted, offset);
+    if (size < 0)
+        return lastError();
+    const auto error = writeAll(to, offset, buffer.data(), size);
+    offset += size;
+    return error;
 }
 
-int copyRange(int from, int to, off_t offset, off_t length)
+std::error_code readAndWrite(
+    const FileDescriptor& from, const FileDescriptor& to, off_t offset, off_t end)
+{
+    for (off_t start = offset; offset < end; start = offset) {
+        const auto error = copyPiece(from, to, offset, end - offset);
+        if (error || offset == start)
+            return error;
+    }
+    return {};
+}
+
+bool isUnknownHere(std::error_code error)
+{
+    const int number = error.value();
+    return number == EXDEV || number == EOPNOTSUPP || number == EINVAL || number == ENOSYS;
+}
+
+std::error_code copyRange(
+    const FileDescriptor& from, const FileDescriptor& to, off_t offset, off_t end)
 {
     off_t written = offset;
-    const off_t end = offset + length;
     while (offset < end) {
-        const ssize_t size
-            = copy_file_range(from, &offset, to, &written, std::size_t(end - offset), 0);
-        if (size == 0)
-            return 0;
-        if (size < 0
-            && (errno == EXDEV || errno == EOPNOTSUPP || errno == EINVAL || errno == ENOSYS))
-            return readAndWrite(from, to, offset, end - offset);
-        if (size < 0)
-            return errno;
+        const ssize_t size = copy_file_range(
+            from.number(), &offset, to.number(), &written, std::size_t(end - offset), 0);
+        const auto error = errorOf(size);
+        if (isUnknownHere(error))
+            return readAndWrite(from, to, offset, end);
+        if (error || size == 0)
+            return error;
     }
-    return 0;
+    return {};
 }
 
 // The ranges that hold data; then the length, should the file end in a hole.
-int copyWithHoles(int from, off_t length, int to)
+std::error_code copyWithHoles(const FileDescriptor& from, off_t length, const FileDescriptor& to)
 {
     off_t hole = 0;
     for (;;) {
-        const off_t data = lseek(from, hole, SEEK_DATA);
+        const off_t data = lseek(from.number(), hole, SEEK_DATA);
         if (data < 0)
-            return errno == ENXIO && ftruncate(to, length) == 0 ? 0 : errno;
-        hole = lseek(from, data, SEEK_HOLE);
+            return errno == ENXIO ? errorOf(ftruncate(to.number(), length)) : lastError();
+        hole = lseek(from.number(), data, SEEK_HOLE);
         if (hole < 0)
-            return errno;
-        if (const int number = copyRange(from, to, data, hole - data))
-            return number;
+            return lastError();
+        if (const auto error = copyRange(from, to, data, hole))
+            return error;
     }
 }
 
 }
 
-int copyFileData(int from, const struct stat& status, int to)
+std::error_code copyFileData(
+    const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
-    // A small file is in memory after one read; a file of the kernel's own gives no length.
+    // A file of the kernel's own tells no length: what it gives is what it holds.
+    if (status.st_size == 0)
+        return readAndWrite(from, to, 0, std::numeric_limits<off_t>::max());
+    // A small file is in memory after one read.
     if (status.st_size < bufferSize)
         return readAndWrite(from, to, 0, status.st_size);
     if (clone(from, status, to))
-        return 0;
+        return {};
     constexpr off_t blockSize = 512; // the unit of st_blocks, whatever the file system's own
     if (status.st_blocks * blockSize < status.st_size)
         return copyWithHoles(from, status.st_size, to);

@@ -1,4 +1,4 @@
-#include "Foundation/MountTableLibmount.h"
+#include "MountTable.h"
 
 #include <libmount/libmount.h>
 #include <memory>

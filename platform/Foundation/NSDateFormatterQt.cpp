@@ -1,4 +1,4 @@
-#include "Foundation/NSDateFormatter.h"
+#include <Foundation/NSDateFormatter.h>
 
 #include <QDateTime>
 

@@ -1,4 +1,6 @@
-#include "Foundation/NSFileHandle.h"
+#include <Foundation/NSFileHandle.h>
+
+#include "FileDescriptor.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -6,21 +8,21 @@
 std::shared_ptr<NSFileHandle> NSFileHandle::fileHandleForWritingAtPath(const std::string& path)
 {
     // O_NONBLOCK: a pipe in the file's place that nobody reads is refused, not waited for.
-    const int descriptor = open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return nullptr;
-    return std::shared_ptr<NSFileHandle>(new NSFileHandle(descriptor));
+    FileDescriptor file(open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC));
+    return file.isOpen() ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
 }
 
-NSFileHandle::~NSFileHandle()
+NSFileHandle::NSFileHandle(FileDescriptor file)
+    : m_file(std::make_unique<FileDescriptor>(std::move(file)))
 {
-    closeFile();
 }
+
+NSFileHandle::~NSFileHandle() = default;
 
 void NSFileHandle::writeData(std::string_view data)
 {
     while (!data.empty()) {
-        const ssize_t written = write(m_descriptor, data.data(), data.size());
+        const ssize_t written = write(m_file->number(), data.data(), data.size());
         if (written <= 0)
             return;
         data.remove_prefix(std::size_t(written));
@@ -29,12 +31,10 @@ void NSFileHandle::writeData(std::string_view data)
 
 void NSFileHandle::synchronizeFile()
 {
-    fdatasync(m_descriptor);
+    fdatasync(m_file->number());
 }
 
 void NSFileHandle::closeFile()
 {
-    if (m_descriptor >= 0)
-        close(m_descriptor);
-    m_descriptor = -1;
+    m_file->close();
 }

@@ -1,6 +1,6 @@
-#include "Foundation/NSFileManager.h"
+#include <Foundation/NSFileManager.h>
 
-#include "Foundation/MountTableLibmount.h"
+#include "MountTable.h"
 
 std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKeys(
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const

@@ -1,7 +1,8 @@
-#include "Foundation/NSFileManager.h"
+#include <Foundation/NSFileManager.h>
 
-#include "Foundation/ErrorPOSIX.h"
-#include "Foundation/FileCopyPOSIX.h"
+#include "ErrorText.h"
+#include "FileCopy.h"
+#include "FileDescriptor.h"
 
 #include <cerrno>
 #include <dirent.h>
@@ -58,7 +59,7 @@ std::optional<std::vector<std::string>> NSFileManager::contentsOfDirectoryAtPath
     const std::string failure = "The folder " + quoted(path) + " couldn’t be opened";
     const std::unique_ptr<DIR, CloseFolder> folder(opendir(path.c_str()));
     if (!folder) {
-        failBecause(error, failure, errno);
+        failBecause(error, failure, lastError());
         return std::nullopt;
     }
 
@@ -70,7 +71,7 @@ std::optional<std::vector<std::string>> NSFileManager::contentsOfDirectoryAtPath
             names.emplace_back(name);
     }
     if (errno != 0) {
-        failBecause(error, failure, errno);
+        failBecause(error, failure, lastError());
         return std::nullopt;
     }
     return names;
@@ -91,26 +92,22 @@ bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
 
 bool NSFileManager::createFileAtPath(const std::string& path) const
 {
-    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (descriptor < 0)
-        return errno == EEXIST;
-    close(descriptor);
-    return true;
+    const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    return file.isOpen() || errno == EEXIST;
 }
 
 bool NSFileManager::createDirectoryAtPath(const std::string& path, NSError* error) const
 {
-    if (mkdir(path.c_str(), 0777) == 0)
-        return true;
-    const int number = errno;
-    if (number == EEXIST && isFolder(path))
+    const auto reason = errorOf(mkdir(path.c_str(), 0777));
+    if (!reason || (reason == std::errc::file_exists && isFolder(path)))
         return true;
 
     const std::string parent = parentFolder(path);
-    const bool parentIsMissing = number == ENOENT || number == ENOTDIR;
+    const bool parentIsMissing
+        = reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory;
     if (parentIsMissing && !parent.empty() && !isFolder(parent))
         return createDirectoryAtPath(parent, error) && createDirectoryAtPath(path, error);
-    return failBecause(error, "The folder " + quoted(path) + " couldn’t be created", number);
+    return failBecause(error, "The folder " + quoted(path) + " couldn’t be created", reason);
 }
 
 bool NSFileManager::copyItemAtPath(
@@ -121,19 +118,12 @@ bool NSFileManager::copyItemAtPath(
 
 bool NSFileManager::removeItemAtPath(const std::string& path, NSError* error) const
 {
-    if (unlink(path.c_str()) == 0)
-        return true;
-    int number = errno;
-    if (number == EISDIR && rmdir(path.c_str()) == 0)
-        return true;
-    if (number == EISDIR)
-        number = errno;
-    if (number == ENOTEMPTY) {
-        std::error_code code;
-        std::filesystem::remove_all(path, code);
-        number = code.value();
-        if (number == 0)
-            return true;
+    auto reason = errorOf(unlink(path.c_str()));
+    if (reason == std::errc::is_a_directory)
+        reason = errorOf(rmdir(path.c_str()));
+    if (reason == std::errc::directory_not_empty) {
+        reason.clear();
+        std::filesystem::remove_all(path, reason);
     }
-    return failBecause(error, quoted(path) + " couldn’t be removed", number);
+    return !reason || failBecause(error, quoted(path) + " couldn’t be removed", reason);
 }

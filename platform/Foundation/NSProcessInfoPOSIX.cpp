@@ -1,4 +1,4 @@
-#include "Foundation/NSProcessInfo.h"
+#include <Foundation/NSProcessInfo.h>
 
 #include <fstream>
 #include <unistd.h>

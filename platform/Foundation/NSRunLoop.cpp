@@ -1,6 +1,4 @@
-#include "Foundation/NSRunLoop.h"
-
-#include "Dispatch/DispatchQueue.h"
+#include <Foundation/NSRunLoop.h>
 
 class CFRunLoop { };
 
@@ -14,10 +12,4 @@ CFRunLoopRef NSRunLoop::getCFRunLoop() const
 {
     static CFRunLoop loop;
     return &loop;
-}
-
-void CFRunLoopPerformBlock(CFRunLoopRef, CFRunLoopMode, std::function<void()> block)
-{
-    // The main queue is all that the main thread's loop runs for others.
-    DispatchQueue::main().async(std::move(block));
 }

@@ -1,6 +1,6 @@
-#include "Foundation/NSString.h"
+#include <Foundation/NSString.h>
 
-#include "Foundation/FileDescriptorPOSIX.h"
+#include "FileDescriptor.h"
 
 #include <fcntl.h>
 #include <filesystem>

@@ -1,5 +1,6 @@
-#include "Foundation/NSString.h"
-#include "Foundation/TextQt.h"
+#include <Foundation/NSString.h>
+
+#include "DecodedText.h"
 
 #include <QTextBoundaryFinder>
 

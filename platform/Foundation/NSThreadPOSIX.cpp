@@ -1,4 +1,4 @@
-#include "Foundation/NSThread.h"
+#include <Foundation/NSThread.h>
 
 #include <chrono>
 #include <thread>

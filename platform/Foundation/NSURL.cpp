@@ -1,4 +1,4 @@
-#include "Foundation/NSURL.h"
+#include <Foundation/NSURL.h>
 
 NSURL NSURL::fileURLWithPath(std::string_view path)
 {

@@ -1,12 +1,12 @@
+#include "ViewController.h"
 #include "fakes/NSProcessInfoFake.h"
 #include "support/LogFile.h"
-#include "support/TestController.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using Mode = TestController::Mode;
+using Mode = ViewController::Mode;
 
 struct Case {
     std::vector<std::string> arguments;
@@ -19,9 +19,9 @@ void expectOption(const Case& c, bool test = false)
     const std::string shown = testing::PrintToString(c.arguments);
     clearLog();
     setArguments(c.arguments);
-    TestController controller;
-    controller.m_test = test;
-    const auto option = controller.parseCommandLine();
+    const auto controller = ViewController::initWithNibName("MainInterface", nullptr);
+    controller->m_test = test;
+    const auto option = controller->parseCommandLine();
 
     ASSERT_EQ(option.has_value(), c.mode.has_value()) << shown;
     if (!option) {

@@ -1,119 +1,117 @@
-#include "AppKit/NSButton.h"
-#include "AppKit/NSLayoutConstraint.h"
-#include "AppKit/NSProgressIndicator.h"
-#include "AppKit/NSScrollView.h"
-#include "AppKit/NSTextField.h"
+#include "WindowReport.h"
 #include "fakes/NSProcessInfoFake.h"
+#include "fakes/NSThreadFake.h"
 #include "support/LogFile.h"
 #include "support/MainLoop.h"
 #include "support/Screen.h"
-#include "support/TestController.h"
+#include "support/TestWindow.h"
+
+#include <AppKit/NSButton.h>
+#include <AppKit/NSLayoutConstraint.h>
+#include <AppKit/NSProgressIndicator.h>
+#include <AppKit/NSTextField.h>
+
+#include <QSize>
 
 #include <gtest/gtest.h>
+#include <thread>
+
+using Lines = std::vector<std::string>;
 
 namespace {
 
-// Without an option the pane opens at once, and no task gets in the way.
-class ResultPane : public testing::Test {
+// Without an option the pane opens, and no task gets in the way.
+class Pane : public testing::Test {
 protected:
-    ResultPane()
+    Pane()
     {
-        EXPECT_TRUE(runMainLoopUntil([&] { return paneHeight() == openHeight; }));
+        EXPECT_TRUE(runMainLoopUntil([this] { return isPaneOpen(controller); }));
         clearLog();
     }
 
-    CGFloat paneHeight() const { return controller.resultPainView->bounds().size.height; }
     CGFloat position() const { return controller.resultText->visibleRect().origin.y; }
-    CGFloat endPosition() const
+
+    void showLines(int count) const
     {
-        return controller.resultText->frame().size.height
-            - controller.resultTextScrollView->contentSize().height;
+        for (int i = 1; i <= count; ++i)
+            controller.showMessage("line " + std::to_string(i));
     }
 
+    struct Options {
+        Options() { setArguments({ "me" }); }
+    } options;
     TestWindow window;
-    TestController& controller = *window.controller;
-    const CGFloat openHeight = controller.m_resultPainViewHeight;
+    ViewController& controller = *window.controller;
 };
 
 }
 
-TEST(StartUp, withoutAnOptionThePaneOpensAndWaits)
-{
-    clearLog();
-    setArguments({ "me" });
-    const TestWindow window;
-    TestController& controller = *window.controller;
-    EXPECT_EQ(readLog(), (std::vector<std::string> { "n installer start", "d invalid options" }));
-    EXPECT_EQ(controller.resultText->stringValue(), "invalid options\n");
-    EXPECT_EQ(controller.progressIndicator->doubleValue(), 0);
-    EXPECT_TRUE(controller.resultButton->isEnabled());
-    EXPECT_GT(controller.m_resultPainViewHeight, 0);
-    EXPECT_TRUE(runMainLoopUntil([&] {
-        return controller.resultPainView->bounds().size.height == controller.m_resultPainViewHeight;
-    }));
-    EXPECT_TRUE(isWindowOnScreen());
-    controller.resultButton->performClick();
-    EXPECT_FALSE(isWindowOnScreen());
-}
-
-TEST(ViewController, isEmptyUntilItsOutletsAreConnectedAndAfterTheWindowHasGone)
-{
-    const auto controller = ViewController::initWithNibName("MainInterface", nullptr);
-    EXPECT_EQ(controller->resultText.get(), nullptr);
-    EXPECT_EQ(ViewController::initWithCoder(NSCoder(nullptr)), nullptr);
-
-    auto window = std::make_unique<TestWindow>();
-    const auto kept = window->controller;
-    EXPECT_NE(kept->resultText.get(), nullptr);
-    window.reset();
-    EXPECT_EQ(kept->resultText.get(), nullptr);
-    EXPECT_EQ(kept->view(), nullptr);
-}
-
-TEST_F(ResultPane, collectsMessagesAndLogsThem)
+TEST_F(Pane, collectsMessagesAndLogsThem)
 {
     controller.resultText->setStringValue("");
     for (const char* const message : { "first", "", "two\nlines", "not \xFF UTF-8" })
         controller.showMessage(message);
     EXPECT_EQ(controller.resultText->stringValue(), "first\n\ntwo\nlines\nnot \xFF UTF-8\n");
-    EXPECT_EQ(readLog(),
-        (std::vector<std::string> { "d first", "d ", "d two\\nlines", "d not \xFF UTF-8" }));
-
-    EXPECT_TRUE(
-        runMainLoopUntil([] { return copyAllText() == "first\n\ntwo\nlines\nnot \uFFFD UTF-8"; }));
+    EXPECT_EQ(shownText(), "first\n\ntwo\nlines\nnot \uFFFD UTF-8");
+    EXPECT_EQ(readLog(), (Lines { "d first", "d ", "d two\\nlines", "d not \xFF UTF-8" }));
 }
 
-TEST_F(ResultPane, followsTheEndFromWithinTwentyPointsOfIt)
+TEST_F(Pane, showsTheWholeEndInEverySize)
 {
-    for (int i = 0; i < 100; ++i)
-        controller.showMessage("line");
-    EXPECT_EQ(position(), endPosition());
-
-    controller.resultText->scrollPoint({ 0, endPosition() - 19 });
-    controller.showMessage("followed");
-    EXPECT_EQ(position(), endPosition());
-
-    const CGFloat away = endPosition() - 20;
-    controller.resultText->scrollPoint({ 0, away });
-    controller.showMessage("not followed");
-    EXPECT_EQ(position(), away);
-
-    controller.showResult();
-    EXPECT_EQ(position(), endPosition());
-    EXPECT_EQ(paneHeight(), openHeight);
+    showLines(100);
+    controller.showMessage("the end of “" + std::string(300, 'x') + "” failed");
+    for (const QSize size : { QSize(520, 400), { 900, 700 }, { 400, 380 }, { 700, 500 } }) {
+        resizeWindow(size.width(), size.height());
+        runMainLoopUntil([] { return lastShownRow().ends_with("” failed"); });
+        EXPECT_TRUE(lastShownRow().ends_with("” failed")) << size.width();
+    }
 }
 
-TEST_F(ResultPane, theWindowShrinksAndGrowsWithThePane)
+TEST_F(Pane, aViewThatWasScrolledAwayStaysThere)
+{
+    showLines(100);
+    controller.resultText->scrollPoint({ 0, position() / 2 });
+    const std::string first = firstShownRow();
+    ASSERT_TRUE(first.starts_with("line "));
+    ASSERT_NE(first, "line 1");
+    for (const QSize size : { QSize(900, 700), { 400, 380 } }) {
+        resizeWindow(size.width(), size.height());
+        runMainLoopUntil([] { return false; }, 100);
+        EXPECT_EQ(firstShownRow(), first);
+    }
+    controller.showMessage("not followed");
+    EXPECT_EQ(firstShownRow(), first);
+    controller.showResult();
+    EXPECT_EQ(lastShownRow(), "not followed");
+}
+
+TEST_F(Pane, theWindowShrinksAndGrowsWithIt)
 {
     const auto windowHeight = [&] { return controller.view()->bounds().size.height; };
     const CGFloat whole = windowHeight();
     controller.resultPainViewHeightConstraint->setConstant(0);
-    EXPECT_TRUE(runMainLoopUntil([&] { return windowHeight() == whole - openHeight; }));
+    EXPECT_TRUE(runMainLoopUntil(
+        [&] { return windowHeight() == whole - controller.m_resultPainViewHeight; }));
     controller.showResult();
     EXPECT_TRUE(runMainLoopUntil([&] { return windowHeight() == whole; }));
 }
 
-TEST_F(ResultPane, stepsTheBar)
+TEST(PaneAlone, keysCountOnlyOnceItIsOpen)
+{
+    setArguments({ "me" });
+    for (const int key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space }) {
+        const TestWindow opening;
+        const auto closes = [key] {
+            press(key);
+            return !isWindowOnScreen();
+        };
+        EXPECT_FALSE(runMainLoopUntil(closes, 250)); // it takes twice as long
+        EXPECT_TRUE(runMainLoopUntil(closes));
+        EXPECT_EQ(opening.controller->resultPainView->bounds().size.height, 240);
+    }
+}
+
+TEST_F(Pane, stepsTheBar)
 {
     controller.setProgress(0, 4);
     EXPECT_EQ(controller.progressIndicator->doubleValue(), 0.25);
@@ -123,14 +121,41 @@ TEST_F(ResultPane, stepsTheBar)
     EXPECT_EQ(controller.progressIndicator->doubleValue(), 1.0);
 }
 
-TEST_F(ResultPane, finishClosesTheWindowUnlessItIsATest)
+TEST_F(Pane, aReportIsInTheWindowWhenItReturns)
 {
-    controller.m_test = true;
-    controller.resultButton->setEnabled(false);
-    controller.finish();
-    EXPECT_TRUE(controller.resultButton->isEnabled());
+    const auto report
+        = std::make_shared<WindowReport>(window.controller, ViewController::Mode::uninstall);
+    std::thread task([&] {
+        report->showMessage("from a task");
+        EXPECT_EQ(readLog(), Lines { "d from a task" });
+        report->setProgress(1, 4);
+        EXPECT_EQ(controller.progressIndicator->doubleValue(), 0.5);
+        report->showFailure(NSError("why"));
+    });
+    EXPECT_TRUE(runMainLoopUntil([] { return windowTitle() == "quillbarn could not be removed"; }));
+    task.join();
+    EXPECT_EQ(buttonDescription(), "why");
+}
+
+TEST(PaneAlone, aReportOfTheEndClosesTheWindow)
+{
+    setArguments({ "me" });
+    for (void (TaskReport::*end)() : { &TaskReport::finish, &TaskReport::closeWindow }) {
+        const TestWindow window;
+        WindowReport report(window.controller, ViewController::Mode::install);
+        (report.*end)();
+        EXPECT_TRUE(runMainLoopUntil([] { return !isWindowOnScreen(); }));
+    }
+}
+
+TEST(PaneAlone, isOpenFromTheStartInATestWhichWaitsAtTheEnd)
+{
+    onPause([](double) {});
+    const TestWindow test(Start::test); // a run of its own
+    const ViewController& tested = *test.controller;
+    EXPECT_TRUE(isPaneShown());
+    EXPECT_TRUE(runMainLoopUntil([&] { return tested.resultButton->isEnabled(); }));
     EXPECT_TRUE(isWindowOnScreen());
-    controller.m_test = false;
-    controller.finish();
+    press(Qt::Key_Return);
     EXPECT_FALSE(isWindowOnScreen());
 }

@@ -1,8 +1,8 @@
-#include "disk/DiskImageEjector.h"
-
-#include "Foundation/NSThread.h"
+#include "DiskImageEjector.h"
 #include "fakes/DiskArbitrationFake.h"
 #include "support/MainLoop.h"
+
+#include <Foundation/NSThread.h>
 
 #include <functional>
 #include <gtest/gtest.h>

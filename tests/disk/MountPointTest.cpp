@@ -1,5 +1,4 @@
-#include "disk/MountPoint.h"
-
+#include "MountPoint.h"
 #include "fakes/MountedVolumesFake.h"
 
 #include <gtest/gtest.h>

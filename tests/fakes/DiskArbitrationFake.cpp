@@ -1,5 +1,8 @@
 #include "fakes/DiskArbitrationFake.h"
 
+#include <Dispatch/DispatchQueue.h>
+#include <Foundation/NSRunLoop.h>
+
 #include <mutex>
 
 namespace {
@@ -39,9 +42,11 @@ void answer(const DADiskRef& disk, const std::function<bool()>& isGranted,
     DADiskUnmountCallback callback, void* context)
 {
     diskArbitration().lastCallback = callback;
-    CFRunLoopPerformBlock(disk->session->runLoop, kCFRunLoopDefaultMode,
+    if (disk->session->runLoop != NSRunLoop::mainRunLoop().getCFRunLoop())
+        return;
+    DispatchQueue::main().async(
         [borrowed = DADiskRef(DADiskRef(), disk.get()), isGranted, callback, context] {
-            const DADissenter dissenter { kDAReturnBusy, "busy" };
+            const DADissenter dissenter;
             callback(borrowed, isGranted() ? nullptr : &dissenter, context);
         });
 }

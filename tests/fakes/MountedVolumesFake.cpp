@@ -1,6 +1,6 @@
 #include "fakes/MountedVolumesFake.h"
 
-#include "Foundation/NSFileManager.h"
+#include <Foundation/NSFileManager.h>
 
 namespace {
 

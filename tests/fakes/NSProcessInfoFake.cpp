@@ -1,6 +1,6 @@
 #include "fakes/NSProcessInfoFake.h"
 
-#include "Foundation/NSProcessInfo.h"
+#include <Foundation/NSProcessInfo.h>
 
 namespace {
 

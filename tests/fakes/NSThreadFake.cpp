@@ -1,22 +1,23 @@
 #include "fakes/NSThreadFake.h"
 
-#include "Foundation/NSThread.h"
+#include <Foundation/NSThread.h>
 
-#include <mutex>
 #include <unistd.h>
 #include <utility>
 
 namespace {
 
-std::mutex mutex;
-std::vector<double> pauses;
+std::function<void(double)>& current()
+{
+    static std::function<void(double)> call = [](double) {};
+    return call;
+}
 
 }
 
-std::vector<double> takePauses()
+void onPause(std::function<void(double)> call)
 {
-    const std::lock_guard lock(mutex);
-    return std::exchange(pauses, {});
+    current() = std::move(call);
 }
 
 bool NSThread::isMainThread()
@@ -26,6 +27,5 @@ bool NSThread::isMainThread()
 
 void NSThread::sleepForTimeInterval(double seconds)
 {
-    const std::lock_guard lock(mutex);
-    pauses.push_back(seconds);
+    current()(seconds);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <vector>
+#include <functional>
 
-// The pauses, in seconds, that threads were to make since the last call. None is made.
-std::vector<double> takePauses();
+// What is called on a thread that is to make a pause, of so many seconds, from now on. No pause is
+// made.
+void onPause(std::function<void(double seconds)> call);

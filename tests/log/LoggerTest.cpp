@@ -1,5 +1,4 @@
-#include "log/Logger.h"
-
+#include "Logger.h"
 #include "support/LogFile.h"
 #include "support/Tree.h"
 

@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 
-bool runMainLoopUntil(const std::function<bool()>& condition)
+bool runMainLoopUntil(const std::function<bool()>& condition, int limit)
 {
-    const QDeadlineTimer deadline(10'000);
+    const QDeadlineTimer deadline(limit);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

@@ -1,3 +1,5 @@
+#include "DispatchActivation.h"
+
 #include <QApplication>
 
 #include <cstdlib>
@@ -25,5 +27,6 @@ int main(int argc, char* argv[])
     qInstallMessageHandler(dropPluginWarnings);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    activateDispatchQueues();
     return RUN_ALL_TESTS();
 }

@@ -1,6 +1,6 @@
-#include "Dispatch/DispatchQueue.h"
-
 #include "support/MainLoop.h"
+
+#include <Dispatch/DispatchQueue.h>
 
 #include <algorithm>
 #include <atomic>

@@ -1,5 +1,4 @@
-#include "Foundation/MountTableLibmount.h"
-
+#include "MountTable.h"
 #include "support/Tree.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "Foundation/NSFileManager.h"
-
 #include "support/Tree.h"
+
+#include <Foundation/NSFileManager.h>
 
 #include <algorithm>
 #include <array>

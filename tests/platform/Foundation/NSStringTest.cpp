@@ -1,6 +1,6 @@
-#include "Foundation/NSString.h"
-
 #include "support/Tree.h"
+
+#include <Foundation/NSString.h>
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+class NSApplication;
+class NSWindow;
+
+// Hears of the stages of the program, on the main thread.
+class NSApplicationDelegate {
+public:
+    virtual ~NSApplicationDelegate() = default;
+
+    virtual void applicationDidFinishLaunching() = 0;
+
+    // The process ends right after this.
+    virtual void applicationWillTerminate() = 0;
+
+    virtual bool applicationShouldTerminateAfterLastWindowClosed(NSApplication& sender) = 0;
+};
+
+// Main thread only.
+class NSApplication {
+public:
+    static NSApplication& sharedApplication();
+
+    void setDelegate(std::shared_ptr<NSApplicationDelegate> delegate);
+
+    // Brings the window to the front as soon as it is on the screen, and gives it the keyboard, if
+    // the desktop lets it.
+    void activateIgnoringOtherApps();
+
+    // Tells the delegate and ends the process with 0, whatever other threads are doing.
+    [[noreturn]] void terminate();
+
+private:
+    friend int NSApplicationMain(int argc, const char* const argv[]);
+
+    int run();
+
+    std::shared_ptr<NSApplicationDelegate> m_delegate;
+};
+
+// Loads the main interface, shows its window and runs the main thread's loop. Work for other
+// threads begins when the first frame is on the screen. Doesn't return: the process ends with
+// terminate() when the last window has closed. Where no display can be had it ends with 1, and with
+// a line on standard error that says what to do.
+int NSApplicationMain(int argc, const char* const argv[]);
+
+// The program's main interface. Unlike in AppKit, where a property of the bundle names a file, the
+// program has one object of this class outside all functions. `load` opens the interface file,
+// makes the objects outside the window, and connects everything.
+class NSMainInterface {
+public:
+    using Load = std::shared_ptr<NSWindow> (*)(NSApplication& application);
+    explicit NSMainInterface(Load load);
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <Foundation/NSGeometry.h>
+
+#include <string>
+
+class NSWindow;
+
+// A part of the window, which owns it. Main thread only, like everything in this framework.
+class NSView {
+public:
+    virtual ~NSView() = default;
+
+    // The view's own area, its origin at (0, 0).
+    virtual NSRect bounds() const = 0;
+
+    // The window the view is in, or nullptr.
+    virtual NSWindow* window() const = 0;
+
+    // What a screen reader says about the view when that takes the keyboard.
+    virtual void setAccessibilityHelp(const std::string& help) = 0;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <Foundation/NSError.h>
+
+#include <string>
+#include <system_error>
+
+// A path as it stands in an error's text: in quotation marks.
+std::string quoted(const std::string& path);
+
+// "`what` because ...", with the reason that the system gave. `what` is a clause such as
+// "“/a” couldn’t be removed".
+NSError errorBecause(const std::string& what, std::error_code reason);
+
+// Fills in `error`, where the caller wants one, and answers false.
+bool failBecause(NSError* error, const std::string& what, std::error_code reason);

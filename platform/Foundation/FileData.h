@@ -1,0 +1,10 @@
+#pragma once
+
+#include "FileDescriptor.h"
+
+#include <sys/stat.h>
+
+// Copies the content of a regular file, whose status is given, into an empty one: as a clone where
+// the file system can, with its holes as holes.
+std::error_code copyFileData(
+    const FileDescriptor& from, const struct stat& status, const FileDescriptor& to);
