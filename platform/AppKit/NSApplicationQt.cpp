@@ -48,8 +48,11 @@ std::string missingDisplay()
         const char* const value = std::getenv(name);
         return std::string(value ? value : "");
     };
+    const std::string plugin = valueOf("QT_QPA_PLATFORM");
     const std::string wayland = valueOf("WAYLAND_DISPLAY");
     const std::string display = valueOf("DISPLAY");
+    if (!plugin.empty())
+        return "by the plugin “" + plugin + "”: install it, or unset QT_QPA_PLATFORM.";
     if (!wayland.empty())
         return "on the Wayland display “" + wayland + "”: install the package qt6-wayland.";
     if (!display.empty())

@@ -55,7 +55,8 @@ private:
     {
         const double done = (doubleValue() - m_minValue) / (m_maxValue - m_minValue);
         widget().setValue(int(std::lround(done * steps)));
-        m_frame.start();
+        if (widget().isVisible())
+            m_frame.start();
     }
 
     double m_minValue;

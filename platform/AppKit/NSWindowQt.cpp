@@ -4,7 +4,10 @@
 #include <AppKit/NSViewController.h>
 
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace {
 
@@ -86,6 +89,8 @@ void WindowQt::enableKeyEquivalentForDefaultButton()
 
 void WindowQt::makeKeyAndOrderFront()
 {
+    const int screen = m_dialog->screen()->availableGeometry().width();
+    m_dialog->resize(std::min(m_dialog->width(), screen), m_dialog->height());
     m_dialog->show();
 }
 

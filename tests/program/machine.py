@@ -10,6 +10,7 @@ import unittest
 LOG = "/tmp/quillbarninstaller.log"
 BUNDLE = "/Applications/quillbarn.app"
 SOURCE = "/tmp/source/"
+MARGIN = 20  # of the window, beside the bar
 
 # Names of any bytes are text here, as Python has it for paths.
 BYTES = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
@@ -82,28 +83,61 @@ def mount_memory(test, folder, size):
 class Screen:
     """An X server in memory, with a window manager."""
 
-    def __init__(self):
-        os.makedirs("/run/user", 0o700)
+    def __init__(self, size="800x600"):
+        os.makedirs("/run/user", 0o700, exist_ok=True)
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
         ours, servers = os.pipe()
         keep_running(
-            "Xvfb", "-displayfd", str(servers), "-screen", "0", "800x600x24",
+            "Xvfb", "-displayfd", str(servers), "-screen", "0", size + "x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
-        os.environ["DISPLAY"] = ":" + os.read(ours, 9).decode().strip()
-        keep_running("openbox", stderr=subprocess.DEVNULL)
+        self.display = ":" + os.read(ours, 9).decode().strip()
+        keep_running("openbox", stderr=subprocess.DEVNULL, env=os.environ | {"DISPLAY": self.display})
+
+    def _xdotool(self, *arguments):
+        return subprocess.run(
+            ["xdotool", *arguments], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+            env=os.environ | {"DISPLAY": self.display}).stdout
 
     def press(self, key):
-        subprocess.run(["xdotool", "key", key], check=True)
+        self._xdotool("key", key)
 
     def close_window(self):
         """What the close control in the window's frame does."""
         self.press("alt+F4")
 
+    def await_window(self, title):
+        """Its number, once it is on the screen with that title."""
+        return self._xdotool("search", "--sync", "--onlyvisible", "--name", f"^{title}$").split()[0]
+
+    def size(self, window):
+        """Width and height, without the frame."""
+        lines = self._xdotool("getwindowgeometry", "--shell", window).splitlines()
+        values = dict(line.split("=") for line in lines)
+        return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def click(self, window, right, bottom):
+        """At so many pixels from the window's right and lower edge, as far as the screen goes."""
+        width, height = self.size(window)
+        self._xdotool(
+            "mousemove", "--window", window, str(width - right), str(height - bottom), "click", "1")
+
+    def bar(self, window):
+        """How much of the bar in the window is filled, by its colour."""
+        picture = subprocess.run(
+            ["import", "-silent", "-display", self.display, "-window", window, "-depth", "8", "rgb:-"],
+            check=True, capture_output=True).stdout
+        width, _ = self.size(window)
+        rows = [picture[start:start + 3 * width] for start in range(0, len(picture), 3 * width)]
+        blue = max(sum(row[i + 2] > row[i] + 60 for i in range(0, 3 * width, 3)) for row in rows[:110])
+        return blue / (width - 2 * MARGIN)
+
 
 class InstallerTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        InstallerTest.screen = getattr(InstallerTest, "screen", None) or Screen()
+        if not hasattr(InstallerTest, "screen"):
+            InstallerTest.screen = Screen()
+            os.environ["DISPLAY"] = InstallerTest.screen.display
 
     def setUp(self):
         for path in BUNDLE, LOG, SOURCE:
@@ -127,11 +161,13 @@ class InstallerTest(unittest.TestCase):
         self.expect_orderly_end(self.start(*arguments, **options))
         return read_log()
 
-    def run_and_press(self, *arguments, key="Return"):
-        """Runs until the window waits, and presses its button. The log."""
-        remove(LOG)
-        installer = self.start(*arguments)
+    def press_until_closed(self, installer, key="Return"):
         while installer.poll() is None:
             self.screen.press(key)
         self.expect_orderly_end(installer)
+
+    def run_and_press(self, *arguments, key="Return"):
+        """Runs until the window waits, and presses its button. The log."""
+        remove(LOG)
+        self.press_until_closed(self.start(*arguments), key)
         return read_log()

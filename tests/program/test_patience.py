@@ -4,7 +4,7 @@ import os
 import time
 
 from disks import DetachTest, DiskImage, run
-from machine import read_log, write
+from machine import LOG, await_that, read_log, write
 
 
 class Patience(DetachTest):
@@ -30,6 +30,9 @@ class Patience(DetachTest):
         nowhere = os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nowhere"}
         with open(self.image.bundle + "/quillbarn"):
             other = self.start("-install2", self.image.bundle, env=nowhere)
+            await_that(lambda: os.path.exists(LOG) and len(read_log()) == 4)
+            window = self.screen.await_window("Ejecting the disk image")
+            self.assertAlmostEqual(self.screen.bar(window), 1, delta=0.01)  # and not a black window
             self.expect_orderly_end(self.start("-install2", self.image.bundle))
             self.expect_seconds(35)
             self.assertEqual(other.wait(5), 0)

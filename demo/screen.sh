@@ -1,0 +1,56 @@
+# A display for the demos: the person's own, or one in memory, of which pictures are saved.
+
+screen_in_memory=no
+
+# start_screen WIDTHxHEIGHT: with a window manager
+start_screen() {
+    need "${for_showing[@]}"
+    screen_in_memory=yes
+    mkdir -p build/demo
+    local pipe=build/demo/display number
+    rm -f "$pipe"
+    mkfifo "$pipe"
+    Xvfb -displayfd 3 -screen 0 "$1x24" 3<>"$pipe" 2>/dev/null &
+    at_end "kill $!"
+    read -r number <"$pipe"
+    rm "$pipe"
+    export DISPLAY=":$number" XDG_RUNTIME_DIR="$PWD/build/demo/runtime"
+    install -d -m 0700 "$XDG_RUNTIME_DIR"
+    openbox 2>/dev/null &
+    at_end "kill $!"
+}
+
+ensure_display() {
+    [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || start_screen 640x480
+}
+
+window_is_shown() { # title
+    xdotool search --onlyvisible --name "$1" >/dev/null 2>&1
+}
+
+# picture FILE: of the installer's window with its frame
+picture() {
+    import -window root png:- | convert - -trim +repage -strip +dither -colors 128 PNG8:"$1"
+    echo "Picture: $1"
+}
+
+# show NAME SECONDS ARGUMENT...: runs the installer; where the display is in memory, saves a picture
+# after so many seconds and presses the button
+show() {
+    local name="$1" seconds="$2" installer
+    shift 2
+    build/release/quillbarninstaller "$@" &
+    installer=$!
+    if [ "$screen_in_memory" = yes ]; then
+        await window_is_shown quillbarn
+        sleep "$seconds"
+        picture "build/demo/$name.png"
+        xdotool key Return
+    fi
+    wait "$installer"
+}
+
+show_log() {
+    printf '\nThe end of the log, /tmp/quillbarninstaller.log:\n'
+    tail -n 5 /tmp/quillbarninstaller.log
+}
