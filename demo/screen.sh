@@ -16,15 +16,20 @@ start_screen() {
     rm "$pipe"
     export DISPLAY=":$number" XDG_RUNTIME_DIR="$PWD/build/demo/runtime"
     install -d -m 0700 "$XDG_RUNTIME_DIR"
-    openbox 2>/dev/null &
+    openbox >/dev/null 2>&1 &
     at_end "kill $!"
+    await window_manager_is_there # or a window that comes at that moment may be forgotten
+}
+
+window_manager_is_there() {
+    xdotool get_num_desktops >/dev/null 2>&1
 }
 
 ensure_display() {
     [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || start_screen 640x480
 }
 
-window_is_shown() { # title
+window_is_shown() { # a part of its title
     xdotool search --onlyvisible --name "$1" >/dev/null 2>&1
 }
 
@@ -42,7 +47,7 @@ show() {
     build/release/quillbarninstaller "$@" &
     installer=$!
     if [ "$screen_in_memory" = yes ]; then
-        await window_is_shown quillbarn
+        await window_is_shown 'quillbarn|disk image'
         sleep "$seconds"
         picture "build/demo/$name.png"
         xdotool key Return

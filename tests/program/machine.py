@@ -91,7 +91,10 @@ class Screen:
             "Xvfb", "-displayfd", str(servers), "-screen", "0", size + "x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
         self.display = ":" + os.read(ours, 9).decode().strip()
-        keep_running("openbox", stderr=subprocess.DEVNULL, env=os.environ | {"DISPLAY": self.display})
+        environment = os.environ | {"DISPLAY": self.display}
+        keep_running("openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=environment)
+        # Or it may forget a window that comes at that moment.
+        await_that(lambda: self._xdotool("get_num_desktops"))
 
     def _xdotool(self, *arguments):
         return subprocess.run(
