@@ -9,7 +9,7 @@ struct Volumes {
     int asked = 0;
 };
 
-Volumes& current()
+Volumes& fakeVolumes()
 {
     static Volumes volumes;
     return volumes;
@@ -19,20 +19,20 @@ Volumes& current()
 
 void setMountedVolumes(std::vector<std::string> mountPoints)
 {
-    current() = { std::move(mountPoints), 0 };
+    fakeVolumes() = { std::move(mountPoints), 0 };
 }
 
 int mountedVolumesAsked()
 {
-    return current().asked;
+    return fakeVolumes().asked;
 }
 
 std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKeys(
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const
 {
-    ++current().asked;
+    ++fakeVolumes().asked;
     std::vector<NSURL> volumes;
-    for (const std::string& mountPoint : current().mountPoints)
+    for (const std::string& mountPoint : fakeVolumes().mountPoints)
         volumes.push_back(NSURL::fileURLWithPath(mountPoint));
     return volumes;
 }

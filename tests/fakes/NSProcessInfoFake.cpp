@@ -4,7 +4,7 @@
 
 namespace {
 
-std::vector<std::string>& current()
+std::vector<std::string>& fakeArguments()
 {
     static std::vector<std::string> arguments;
     return arguments;
@@ -14,7 +14,7 @@ std::vector<std::string>& current()
 
 void setArguments(std::vector<std::string> arguments)
 {
-    current() = std::move(arguments);
+    fakeArguments() = std::move(arguments);
 }
 
 const NSProcessInfo& NSProcessInfo::processInfo()
@@ -30,5 +30,5 @@ int NSProcessInfo::processIdentifier() const
 
 std::vector<std::string> NSProcessInfo::arguments() const
 {
-    return current();
+    return fakeArguments();
 }

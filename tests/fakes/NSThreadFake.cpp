@@ -7,7 +7,7 @@
 
 namespace {
 
-std::function<void(double)>& current()
+std::function<void(double)>& pauseCall()
 {
     static std::function<void(double)> call = [](double) {};
     return call;
@@ -17,7 +17,7 @@ std::function<void(double)>& current()
 
 void onPause(std::function<void(double)> call)
 {
-    current() = std::move(call);
+    pauseCall() = std::move(call);
 }
 
 bool NSThread::isMainThread()
@@ -27,5 +27,5 @@ bool NSThread::isMainThread()
 
 void NSThread::sleepForTimeInterval(double seconds)
 {
-    current()(seconds);
+    pauseCall()(seconds);
 }
