@@ -10,7 +10,7 @@ start_screen() {
     local pipe=build/demo/display number
     rm -f "$pipe"
     mkfifo "$pipe"
-    Xvfb -displayfd 3 -screen 0 "$1x24" 3<>"$pipe" 2>/dev/null &
+    Xvfb -displayfd 3 -noreset -screen 0 "$1x24" 3<>"$pipe" 2>/dev/null &
     at_end "kill $!"
     read -r number <"$pipe"
     rm "$pipe"

@@ -72,12 +72,11 @@ void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QStr
 
 // What is only marked for the next frame is not on the screen when a task puts this thread to
 // sleep. A desktop that shows no window is not waited for long: a run needs nobody to look at it.
-void drawFirstFrame()
+void drawFirstFrame(QWidget& window)
 {
     QTimer patience;
     patience.setSingleShot(true);
     patience.start(std::chrono::seconds(1));
-    QWidget& window = *QApplication::topLevelWidgets().first();
     while (!window.windowHandle()->isExposed() && patience.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     window.repaint();
@@ -103,12 +102,7 @@ void NSApplication::setDelegate(std::shared_ptr<NSApplicationDelegate> delegate)
 
 void NSApplication::activateIgnoringOtherApps()
 {
-    QTimer::singleShot(0, qApp, [] {
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            window->raise();
-            window->activateWindow();
-        }
-    });
+    m_isToBeActive = true;
 }
 
 void NSApplication::terminate()
@@ -129,7 +123,12 @@ int NSApplication::run()
     });
     m_delegate->applicationDidFinishLaunching();
     window->makeKeyAndOrderFront();
-    drawFirstFrame();
+    QWidget& widget = *QApplication::topLevelWidgets().first();
+    drawFirstFrame(widget);
+    if (m_isToBeActive) { // which a desktop ignores before it knows the window
+        widget.raise();
+        widget.activateWindow();
+    }
     activateDispatchQueues();
     return QApplication::exec();
 }

@@ -88,11 +88,19 @@ class Screen:
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
         ours, servers = os.pipe()
         keep_running(
-            "Xvfb", "-displayfd", str(servers), "-screen", "0", size + "x24",
+            "Xvfb", "-displayfd", str(servers), "-noreset", "-screen", "0", size + "x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
         self.display = ":" + os.read(ours, 9).decode().strip()
-        environment = os.environ | {"DISPLAY": self.display}
-        keep_running("openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=environment)
+        self.window_manager = None
+        self._manage_windows()
+
+    def _manage_windows(self):
+        """Once more where that is over: the window manager ends by itself now and then."""
+        if self.window_manager and self.window_manager.poll() is None:
+            return
+        self.window_manager = keep_running(
+            "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            env=os.environ | {"DISPLAY": self.display})
         # Or it may forget a window that comes at that moment.
         await_that(lambda: self._xdotool("get_num_desktops"))
 
@@ -106,11 +114,17 @@ class Screen:
 
     def close_window(self):
         """What the close control in the window's frame does."""
+        self._manage_windows()
         self.press("alt+F4")
 
-    def await_window(self, title):
-        """Its number, once it is on the screen with that title."""
-        return self._xdotool("search", "--sync", "--onlyvisible", "--name", f"^{title}$").split()[0]
+    def await_window(self, title=".*(quillbarn|disk image).*"):
+        """Its number, once it is on the screen with that title. It gets the keyboard: a window that
+        comes while somebody types elsewhere is not given it by the window manager."""
+        self._manage_windows()
+        search = "search", "--onlyvisible", "--name", f"^{title}$"
+        window = await_that(lambda: self._xdotool(*search).split())[0]
+        self._xdotool("windowactivate", window)
+        return window
 
     def size(self, window):
         """Width and height, without the frame."""
@@ -165,6 +179,7 @@ class InstallerTest(unittest.TestCase):
         return read_log()
 
     def press_until_closed(self, installer, key="Return"):
+        self.screen.await_window()
         while installer.poll() is None:
             self.screen.press(key)
         self.expect_orderly_end(installer)

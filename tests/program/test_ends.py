@@ -35,6 +35,7 @@ class End(InstallerTest):
 
     def test_nothing_a_person_does_closes_the_window_while_a_task_runs(self):
         installer = self.start("-install", SOURCE)
+        self.screen.await_window()
         while installer.poll() is None:
             for key in "Return", "Escape", "space":
                 self.screen.press(key)
@@ -45,6 +46,7 @@ class End(InstallerTest):
 
     def test_the_close_control_works_once_the_window_waits(self):
         installer = self.start("-install")
+        self.screen.await_window()
         while installer.poll() is None:
             self.screen.close_window()
         self.expect_orderly_end(installer)

@@ -115,6 +115,7 @@ class Failure(InstallerTest):
         os.chmod(BUNDLE, 0o700)
         somebody = ["setpriv", "--reuid=65534", "--clear-groups", os.environ["INSTALLER"]]
         installer = self.start("-uninstall", command=somebody, env=os.environ | {"XDG_RUNTIME_DIR": ""})
+        self.screen.await_window()
         while installer.poll() is None:
             self.screen.press("Return")
         self.assertEqual(installer.returncode, 0)

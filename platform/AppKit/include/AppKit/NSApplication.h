@@ -38,6 +38,7 @@ private:
     int run();
 
     std::shared_ptr<NSApplicationDelegate> m_delegate;
+    bool m_isToBeActive = false;
 };
 
 // Loads the main interface, shows its window and runs the main thread's loop. Work for other
