@@ -9,7 +9,6 @@
 #include <AppKit/NSButton.h>
 
 #include <QFontDatabase>
-#include <QStyle>
 
 namespace {
 
@@ -33,9 +32,6 @@ MainInterface::MainInterface()
     m_ui->setupUi(&dialog());
     dialog().setWindowIcon(installerIcon());
     m_ui->resultText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    const QStyle& style = *dialog().style();
-    m_ui->resultSign->setPixmap(style.standardIcon(QStyle::SP_MessageBoxWarning)
-                                    .pixmap(style.pixelMetric(QStyle::PM_LargeIconSize)));
     QFont heading = m_ui->productName->font();
     heading.setPointSizeF(heading.pointSizeF() * headingScale);
     m_ui->productName->setFont(heading);

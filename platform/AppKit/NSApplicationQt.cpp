@@ -70,16 +70,15 @@ void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QStr
     _exit(EXIT_FAILURE);
 }
 
-// What is only marked for the next frame is not on the screen when a task puts this thread to
-// sleep. A desktop that shows no window is not waited for long: a run needs nobody to look at it.
-void drawFirstFrame(QWidget& window)
+// Until the window is on the screen, which it is drawn with. A desktop that shows no window is not
+// waited for long: a run needs nobody to look at it.
+void awaitFirstFrame(const QWidget& window)
 {
     QTimer patience;
     patience.setSingleShot(true);
     patience.start(std::chrono::seconds(1));
     while (!window.windowHandle()->isExposed() && patience.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    window.repaint();
 }
 
 }
@@ -124,7 +123,7 @@ int NSApplication::run()
     m_delegate->applicationDidFinishLaunching();
     window->makeKeyAndOrderFront();
     QWidget& widget = *QApplication::topLevelWidgets().first();
-    drawFirstFrame(widget);
+    awaitFirstFrame(widget);
     if (m_isToBeActive) { // which a desktop ignores before it knows the window
         widget.raise();
         widget.activateWindow();
