@@ -1,6 +1,7 @@
 #include "ViewController.h"
 
 #include "Logger.h"
+#include "WindowReport.h"
 
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSButton.h>
@@ -59,20 +60,25 @@ void ViewController::prepareWindow()
 void ViewController::startTask(const CommandLineOption& option)
 {
     view()->window()->setTitle(textsOf(option.mode).title);
-    // The task keeps the controller until it has run.
-    const auto controller = self();
+    if (option.mode == Mode::unmount)
+        progressIndicator->setDoubleValue(1.0);
+    try {
+        DispatchQueue::global().async(taskOf(option));
+    } catch (const NSError& error) {
+        WindowReport(self(), option.mode).fail(error);
+    }
+}
+
+// The task keeps the controller until it has run.
+std::function<void()> ViewController::taskOf(const CommandLineOption& option)
+{
     switch (option.mode) {
     case Mode::install:
-        DispatchQueue::global().async(
-            [controller, path = option.path] { controller->installBundle(path); });
-        break;
+        return [controller = self(), path = option.path] { controller->installBundle(path); };
     case Mode::uninstall:
-        DispatchQueue::global().async([controller] { controller->uninstallBundle(); });
-        break;
+        return [controller = self()] { controller->uninstallBundle(); };
     case Mode::unmount:
-        progressIndicator->setDoubleValue(1.0);
-        DispatchQueue::global().async(
-            [controller, path = option.path] { controller->unmountDiskImage(path); });
-        break;
+        return [controller = self(), path = option.path] { controller->unmountDiskImage(path); };
     }
+    return nullptr;
 }

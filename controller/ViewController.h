@@ -92,6 +92,7 @@ private:
     void requireOutlets() const;
     void prepareWindow();
     void startTask(const CommandLineOption& option);
+    std::function<void()> taskOf(const CommandLineOption& option);
     void giveKeyboardToButton();
     DryRun dryRun() const { return m_test ? DryRun::yes : DryRun::no; }
     std::shared_ptr<ViewController> self();

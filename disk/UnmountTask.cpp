@@ -31,9 +31,10 @@ void UnmountTask::run() const
     tryEject();
 }
 
+// What can't be looked at is still there.
 bool UnmountTask::pathExists() const
 {
-    return NSFileManager::defaultManager().fileExistsAtPath(m_path);
+    return NSFileManager::defaultManager().fileExistsAtPath(m_path, nullptr).value_or(true);
 }
 
 void UnmountTask::tryEject() const

@@ -17,9 +17,11 @@ public:
     static std::vector<File> getFiles(const std::string& folder, const std::string& prefix);
 
     enum class TopFolder { exclude, include };
+    enum class LinksOut { follow, refuse };
 
     // All entries of the bundle of that name in `parent`, which ends in "/"; first the bundle's own
-    // folder, if it is included. Throws an NSError.
+    // folder, if it is included. Throws an NSError, with `refuse` also where the bundle is a link,
+    // or a link in it leads to a folder elsewhere.
     static std::vector<File> listBundle(
-        const std::string& parent, const std::string& name, TopFolder topFolder);
+        const std::string& parent, const std::string& name, TopFolder topFolder, LinksOut linksOut);
 };

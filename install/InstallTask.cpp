@@ -1,31 +1,14 @@
 #include "InstallTask.h"
 
+#include "BundleChecks.h"
 #include "Logger.h"
 #include "UninstallTask.h"
 
-#include <Foundation/NSFileManager.h>
-#include <Foundation/NSString.h>
 #include <Foundation/NSThread.h>
 
 namespace {
 
 constexpr double dryRunPerFile = 0.1; // seconds
-
-// Whether `folder` is, or lies in, the other; both end in "/".
-bool isWithin(const std::string& folder, const std::string& other)
-{
-    return folder.starts_with(other);
-}
-
-// To install a bundle over itself would be to empty it first.
-void requireApart(const std::string& source, const std::string& destination)
-{
-    const std::string from = NSString::stringByResolvingSymlinksInPath(source) + "/";
-    const std::string to = NSString::stringByResolvingSymlinksInPath(destination) + "/";
-    if (isWithin(from, to) || isWithin(to, from))
-        throw NSError("“" + source + "” couldn’t be installed as “" + destination
-            + "” because these are one folder, or one holds the other.");
-}
 
 }
 
@@ -38,18 +21,27 @@ void InstallTask::run(const std::string& sourcePath) const
 void InstallTask::install(const std::string& sourcePath) const
 {
     using TopFolder = BundleTree::TopFolder;
-    const auto files = BundleTree::listBundle(sourcePath, bundleDir, TopFolder::include);
-    requireApart(sourcePath + bundleDir, applicationDir + bundleDir);
-    UninstallTask(*this).removeBundle(TopFolder::exclude, nullptr);
+    const auto files = BundleTree::listBundle(
+        sourcePath, bundleDir, TopFolder::include, BundleTree::LinksOut::follow);
+    NSConfinedFileManager changes(applicationDir);
+    lock(changes);
+    auto installed = listInstalled(TopFolder::include);
+    BundleChecks::requireApart(sourcePath, files, applicationDir, installed);
+    BundleChecks::requireFreeNames(sourcePath, files, applicationDir);
+    if (!installed.empty())
+        installed.erase(installed.begin()); // the bundle's own folder, which stays
+    UninstallTask(*this).removeEntries(changes, installed, nullptr);
+
     for (std::size_t i = 0; i < files.size(); ++i) {
-        createEntry(sourcePath, files[i]);
+        createEntry(changes, sourcePath, files[i]);
         report().setProgress(std::int64_t(i), std::int64_t(files.size()));
     }
+    synchronize(changes);
 }
 
-void InstallTask::createEntry(const std::string& sourcePath, const BundleTree::File& file) const
+void InstallTask::createEntry(NSConfinedFileManager& changes, const std::string& sourcePath,
+    const BundleTree::File& file) const
 {
-    const NSFileManager& fileManager = NSFileManager::defaultManager();
     const std::string destination = applicationDir + file.path;
     report().showMessage((file.isDirectory ? "mkdir " : " copy ") + destination);
     if (isDryRun()) {
@@ -60,8 +52,8 @@ void InstallTask::createEntry(const std::string& sourcePath, const BundleTree::F
 
     NSError error;
     const bool isDone = file.isDirectory
-        ? fileManager.createDirectoryAtPath(destination, &error)
-        : fileManager.copyItemAtPath(sourcePath + file.path, destination, &error);
+        ? changes.createDirectoryAtPath(destination, &error)
+        : changes.copyItemAtPath(sourcePath + file.path, destination, &error);
     if (!isDone)
         throw error;
 }

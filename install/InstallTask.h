@@ -1,7 +1,6 @@
 #pragma once
 
 #include "BundleTask.h"
-#include "BundleTree.h"
 
 // Copies a bundle into the applications folder, entry by entry, in place of the one that is
 // installed.
@@ -14,5 +13,6 @@ public:
 
 private:
     void install(const std::string& sourcePath) const;
-    void createEntry(const std::string& sourcePath, const BundleTree::File& file) const;
+    void createEntry(NSConfinedFileManager& changes, const std::string& sourcePath,
+        const BundleTree::File& file) const;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "BundleTask.h"
-#include "BundleTree.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,4 +22,8 @@ public:
     // The removal alone; no bundle is no failure. `progress`, if any, is called on the caller's
     // thread after each entry. Throws an NSError at the first that can't be removed.
     void removeBundle(BundleTree::TopFolder topFolder, const Progress& progress) const;
+
+    // The same of entries that were listed.
+    void removeEntries(NSConfinedFileManager& changes, const std::vector<BundleTree::File>& files,
+        const Progress& progress) const;
 };

@@ -1,23 +1,9 @@
 #include "Logger.h"
 
-#include <Foundation/NSDateFormatter.h>
 #include <Foundation/NSFileManager.h>
 #include <Foundation/NSProcessInfo.h>
 
 namespace {
-
-NSDateFormatter makeFormatter()
-{
-    NSDateFormatter formatter;
-    formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
-    return formatter;
-}
-
-const std::string& timeStamp()
-{
-    static thread_local NSDateFormatter formatter = makeFormatter();
-    return formatter.stringFromDate(NSDate::clock::now());
-}
 
 char letterOf(Logger::LogLevel level)
 {
@@ -42,22 +28,24 @@ std::string escaped(std::string message)
 
 Logger::Logger(const std::string& path)
 {
+    m_formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
     const NSFileManager& files = NSFileManager::defaultManager();
-    if (!files.fileExistsAtPath(path) && !files.createFileAtPath(path))
+    if (files.fileExistsAtPath(path, nullptr) == false && !files.createFileAtPath(path))
         return;
     m_file = NSFileHandle::fileHandleForWritingAtPath(path);
 }
 
 void Logger::log(const std::string& message, LogLevel level)
 {
-    const std::string entry = timeStamp() + ' '
-        + std::to_string(NSProcessInfo::processInfo().processIdentifier()) + ' ' + letterOf(level)
-        + ' ' + escaped(message) + '\n';
-
     const std::lock_guard lock(m_mutex);
     if (!m_file)
         return;
-    m_file->writeData(entry);
+    const std::string entry = m_formatter.stringFromDate(NSDate::clock::now()) + ' '
+        + std::to_string(NSProcessInfo::processInfo().processIdentifier()) + ' ' + letterOf(level)
+        + ' ' + escaped(message) + '\n';
+    const std::string line = m_isInEntry ? '\n' + entry : entry;
+    if (const std::size_t written = m_file->writeData(line))
+        m_isInEntry = line[written - 1] != '\n';
     m_file->synchronizeFile();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Foundation/NSDateFormatter.h>
 #include <Foundation/NSFileHandle.h>
 
 #include <memory>
@@ -23,7 +24,9 @@ public:
 
 private:
     std::mutex m_mutex; // the end of the run closes the file while a task may still be logging
+    NSDateFormatter m_formatter;
     std::shared_ptr<NSFileHandle> m_file;
+    bool m_isInEntry = false; // one that the full disk has cut short
 };
 
 // The logger of this process, made at its first use and there until the process ends.

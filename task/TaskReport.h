@@ -6,7 +6,7 @@
 #include <string>
 
 // All that a task knows of the window. A task begins on a background thread, shows messages and
-// steps, and ends with one of the last three, once.
+// steps, and ends with one of the last four, once.
 class TaskReport {
 public:
     virtual ~TaskReport() = default;
@@ -27,4 +27,12 @@ public:
 
     // Opens the pane with the messages, the last of which told the error.
     virtual void showFailure(const NSError& error) = 0;
+
+    // Tells the error after a blank line, and ends with it.
+    void fail(const NSError& error)
+    {
+        showMessage("");
+        showMessage(error.localizedDescription());
+        showFailure(error);
+    }
 };

@@ -1,6 +1,7 @@
 #include <Dispatch/DispatchQueue.h>
 
 #include "DispatchActivation.h"
+#include "ErrorText.h"
 #include "FileDescriptor.h"
 #include "MainQueue.h"
 
@@ -49,10 +50,14 @@ class GlobalQueue : public DispatchQueue {
 public:
     void async(std::function<void()> work) override
     {
-        std::thread([work = std::move(work)] {
-            activation().wait();
-            work();
-        }).detach();
+        try {
+            std::thread([work = std::move(work)] {
+                activation().wait();
+                work();
+            }).detach();
+        } catch (const std::system_error& error) {
+            throw NSError(describe("The work couldn’t be started", error.code()));
+        }
     }
 };
 

@@ -1,8 +1,13 @@
 #include "DecodedText.h"
 
+#include <QStringDecoder>
+
 QString decodedText(std::string_view bytes)
 {
-    QString text = QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
+    // A byte order mark is a character like any other.
+    using Flag = QStringDecoder::Flag;
+    QStringDecoder decoder(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+    QString text = decoder(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
     if (!text.contains(QChar::ReplacementCharacter))
         return text;
 

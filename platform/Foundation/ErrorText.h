@@ -10,7 +10,8 @@ std::string quoted(const std::string& path);
 
 // "`what` because ...", with the reason that the system gave. `what` is a clause such as
 // "“/a” couldn’t be removed".
-NSError errorBecause(const std::string& what, std::error_code reason);
+std::string describe(const std::string& what, std::error_code reason);
 
-// Fills in `error`, where the caller wants one, and answers false.
+// Fill in `error`, where the caller wants one, and answer false.
+bool fail(NSError* error, const std::string& description);
 bool failBecause(NSError* error, const std::string& what, std::error_code reason);

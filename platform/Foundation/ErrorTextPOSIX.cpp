@@ -19,11 +19,12 @@ const char* meaningOf(std::error_code reason)
     case EEXIST:
         return "an item with the same name already exists";
     case EIO:
+    case EUCLEAN:
         return "the disk reported a fault";
     case EISDIR:
         return "it is a folder";
     case ELOOP:
-        return "too many links lead from one to the next";
+        return "a link is on its path";
     case ENAMETOOLONG:
         return "its name or path is too long";
     case ENOENT:
@@ -34,8 +35,16 @@ const char* meaningOf(std::error_code reason)
         return "a part of its path is not a folder";
     case ENOTEMPTY:
         return "it is not empty";
+    case ENODATA:
+        return "its data ended early: it was changed meanwhile, or the disk reported a fault";
     case EROFS:
         return "the volume is read only";
+    case EXDEV:
+        return "it lies on another volume, which is mounted there";
+    case EFBIG:
+        return "it is larger than a file may be";
+    case ENOMEM:
+        return "the memory is used up";
     default:
         return "the system refused";
     }
@@ -48,16 +57,21 @@ std::string quoted(const std::string& path)
     return "“" + path + "”";
 }
 
-NSError errorBecause(const std::string& what, std::error_code reason)
+std::string describe(const std::string& what, std::error_code reason)
 {
     const char* const system = strerrordesc_np(reason.value()); // English, as the rest is
-    return NSError(what + " because " + meaningOf(reason) + " ("
-        + (system ? system : std::to_string(reason.value())) + ").");
+    return what + " because " + meaningOf(reason) + " ("
+        + (system ? system : std::to_string(reason.value())) + ").";
+}
+
+bool fail(NSError* error, const std::string& description)
+{
+    if (error)
+        *error = NSError(description);
+    return false;
 }
 
 bool failBecause(NSError* error, const std::string& what, std::error_code reason)
 {
-    if (error)
-        *error = errorBecause(what, reason);
-    return false;
+    return fail(error, describe(what, reason));
 }

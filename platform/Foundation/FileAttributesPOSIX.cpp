@@ -19,26 +19,47 @@ AttributeKind kindOf(const std::string& name)
                                                  : AttributeKind::plain;
 }
 
-// Of an attribute that may be left out.
-bool isNoFailure(std::error_code error)
+// Capabilities would make the copy more than a file.
+bool isToBeCopied(const std::string& name, AttributeKind kind)
 {
-    const int number = error.value();
-    return number == ENOTSUP || number == EPERM || number == EACCES || number == ENOSPC
-        || number == ENODATA;
+    return kindOf(name) == kind && name != "security.capability";
+}
+
+bool isNotPermitted(std::error_code error)
+{
+    return isUnsupported(error) || error == std::errc::permission_denied;
 }
 
 // The names of all extended attributes, each followed by a NUL byte.
-std::string attributeNames(const FileDescriptor& file)
+std::error_code readAttributeNames(const FileDescriptor& file, std::string& names)
 {
     std::array<char, 256> few {};
     ssize_t size = flistxattr(file.number(), few.data(), few.size());
-    if (size >= 0)
-        return { few.data(), std::size_t(size) };
+    if (size >= 0) {
+        names.assign(few.data(), std::size_t(size));
+        return {};
+    }
+    if (errno == ERANGE) {
+        names.resize(XATTR_LIST_MAX);
+        size = flistxattr(file.number(), names.data(), names.size());
+    }
+    const auto error = errorOf(size);
+    names.resize(error ? 0 : std::size_t(size));
+    return isNotPermitted(error) ? std::error_code() : error;
+}
 
-    std::string many(XATTR_LIST_MAX, '\0');
-    size = flistxattr(file.number(), many.data(), many.size());
-    many.resize(size < 0 ? 0 : std::size_t(size));
-    return many;
+std::error_code copyAttribute(
+    const FileDescriptor& from, const FileDescriptor& to, const char* name, std::string& value)
+{
+    value.resize(XATTR_SIZE_MAX);
+    const ssize_t size = fgetxattr(from.number(), name, value.data(), value.size());
+    auto error = errorOf(size);
+    if (!error) {
+        error = errorOf(fsetxattr(to.number(), name, value.data(), std::size_t(size), 0));
+        if (error == std::errc::no_space_on_device)
+            return {};
+    }
+    return isNotPermitted(error) ? std::error_code() : error;
 }
 
 std::error_code copyAttributes(const FileDescriptor& from, const FileDescriptor& to,
@@ -48,16 +69,9 @@ std::error_code copyAttributes(const FileDescriptor& from, const FileDescriptor&
     for (std::size_t start = 0; start < names.size();) {
         const std::string name = names.c_str() + start;
         start += name.size() + 1;
-        if (kindOf(name) != kind)
-            continue;
-        value.resize(XATTR_SIZE_MAX);
-        const ssize_t size = fgetxattr(from.number(), name.c_str(), value.data(), value.size());
-        std::error_code error = errorOf(size);
-        if (!error)
-            error
-                = errorOf(fsetxattr(to.number(), name.c_str(), value.data(), std::size_t(size), 0));
-        if (error && !isNoFailure(error))
-            return error;
+        if (isToBeCopied(name, kind))
+            if (const auto error = copyAttribute(from, to, name.c_str(), value))
+                return error;
     }
     return {};
 }
@@ -69,14 +83,19 @@ std::error_code copyFileAttributes(
 {
     // In this order nothing undoes what was done before it: a change of owner drops capabilities, a
     // mode without write permission refuses attributes, a mode overwrites a list's mask.
-    const std::string names = attributeNames(from);
+    std::string names;
+    if (const auto error = readAttributeNames(from, names))
+        return error;
     [[maybe_unused]] const int ownerMayStay = fchown(to.number(), status.st_uid, status.st_gid);
     if (const auto error = copyAttributes(from, to, names, AttributeKind::plain))
         return error;
-    if (const auto error = errorOf(fchmod(to.number(), status.st_mode & modeWithoutSetIDs)))
+    auto error = errorOf(fchmod(to.number(), status.st_mode & modeWithoutSetIDs));
+    if (error && !isUnsupported(error))
         return error;
-    if (const auto error = copyAttributes(from, to, names, AttributeKind::accessControlList))
+    error = copyAttributes(from, to, names, AttributeKind::accessControlList);
+    if (error)
         return error;
     const std::array<timespec, 2> times { status.st_atim, status.st_mtim };
-    return errorOf(futimens(to.number(), times.data()));
+    error = errorOf(futimens(to.number(), times.data()));
+    return isUnsupported(error) ? std::error_code() : error;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "OpenFolders.h"
+
 #include <Foundation/NSError.h>
 
-#include <string>
-
-// See NSFileManager::copyItemAtPath.
-bool copyItem(const std::string& source, const std::string& destination, NSError* error);
+// See NSConfinedFileManager::copyItemAtPath.
+bool copyItem(OpenFolders& sources, const std::string& path, OpenFolders& destinations,
+    const std::string& toPath, NSError* error);

@@ -12,6 +12,8 @@
 namespace {
 
 constexpr off_t bufferSize = 0x20000; // bytes
+constexpr off_t unknown = std::numeric_limits<off_t>::max();
+const std::error_code endedEarly = make_error_code(std::errc::no_message_available);
 using Buffer = std::array<char, bufferSize>;
 
 Buffer& sharedBuffer()
@@ -36,8 +38,8 @@ std::error_code writeAll(const FileDescriptor& to, off_t offset, const char* dat
 {
     while (size > 0) {
         const ssize_t written = pwrite(to.number(), data, std::size_t(size), offset);
-        if (written < 0)
-            return lastError();
+        if (written <= 0)
+            return written < 0 ? lastError() : make_error_code(std::errc::no_space_on_device);
         data += written;
         offset += written;
         size -= written;
@@ -64,8 +66,10 @@ std::error_code readAndWrite(
 {
     for (off_t start = offset; offset < end; start = offset) {
         const auto error = copyPiece(from, to, offset, end - offset);
-        if (error || offset == start)
+        if (error)
             return error;
+        if (offset == start)
+            return end == unknown ? std::error_code() : endedEarly;
     }
     return {};
 }
@@ -84,9 +88,9 @@ std::error_code copyRange(
         const ssize_t size = copy_file_range(
             from.number(), &offset, to.number(), &written, std::size_t(end - offset), 0);
         const auto error = errorOf(size);
-        if (isUnknownHere(error))
+        if (isUnknownHere(error) || size == 0)
             return readAndWrite(from, to, offset, end);
-        if (error || size == 0)
+        if (error)
             return error;
     }
     return {};
@@ -108,14 +112,12 @@ std::error_code copyWithHoles(const FileDescriptor& from, off_t length, const Fi
     }
 }
 
-}
-
-std::error_code copyFileData(
+std::error_code copyData(
     const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
     // A file of the kernel's own tells no length: what it gives is what it holds.
     if (status.st_size == 0)
-        return readAndWrite(from, to, 0, std::numeric_limits<off_t>::max());
+        return readAndWrite(from, to, 0, unknown);
     // A small file is in memory after one read.
     if (status.st_size < bufferSize)
         return readAndWrite(from, to, 0, status.st_size);
@@ -125,4 +127,23 @@ std::error_code copyFileData(
     if (status.st_blocks * blockSize < status.st_size)
         return copyWithHoles(from, status.st_size, to);
     return copyRange(from, to, 0, status.st_size);
+}
+
+// Whether the copy is as long as the file is now.
+std::error_code compareLengths(const FileDescriptor& from, const FileDescriptor& to)
+{
+    struct stat source = {};
+    struct stat copy = {};
+    if (fstat(from.number(), &source) < 0 || fstat(to.number(), &copy) < 0)
+        return lastError();
+    return source.st_size == 0 || source.st_size == copy.st_size ? std::error_code() : endedEarly;
+}
+
+}
+
+std::error_code copyFileData(
+    const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
+{
+    const auto error = copyData(from, status, to);
+    return error ? error : compareLengths(from, to);
 }

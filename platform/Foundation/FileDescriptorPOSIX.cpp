@@ -5,7 +5,7 @@
 #include <utility>
 
 FileDescriptor::FileDescriptor(FileDescriptor&& other) noexcept
-    : m_number(std::exchange(other.m_number, -1))
+    : m_number(other.release())
 {
 }
 
@@ -17,7 +17,7 @@ FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept
 
 std::error_code FileDescriptor::close()
 {
-    const int number = std::exchange(m_number, -1);
+    const int number = release();
     return number >= 0 ? errorOf(::close(number)) : std::error_code();
 }
 
@@ -29,4 +29,11 @@ std::error_code lastError()
 std::error_code errorOf(long result)
 {
     return result < 0 ? lastError() : std::error_code();
+}
+
+bool isUnsupported(std::error_code error)
+{
+    return error == std::errc::operation_not_permitted
+        || error == std::errc::operation_not_supported
+        || error == std::errc::function_not_supported;
 }

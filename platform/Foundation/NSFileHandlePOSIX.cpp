@@ -3,13 +3,25 @@
 #include "FileDescriptor.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+bool isFileWithOneName(const FileDescriptor& file)
+{
+    struct stat status = {};
+    return fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1;
+}
+
+}
 
 std::shared_ptr<NSFileHandle> NSFileHandle::fileHandleForWritingAtPath(const std::string& path)
 {
     // O_NONBLOCK: a pipe in the file's place that nobody reads is refused, not waited for.
-    FileDescriptor file(open(path.c_str(), O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC));
-    return file.isOpen() ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
+    constexpr int flags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    FileDescriptor file(open(path.c_str(), flags));
+    return isFileWithOneName(file) ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
 }
 
 NSFileHandle::NSFileHandle(FileDescriptor file)
@@ -19,14 +31,16 @@ NSFileHandle::NSFileHandle(FileDescriptor file)
 
 NSFileHandle::~NSFileHandle() = default;
 
-void NSFileHandle::writeData(std::string_view data)
+std::size_t NSFileHandle::writeData(std::string_view data)
 {
-    while (!data.empty()) {
-        const ssize_t written = write(m_file->number(), data.data(), data.size());
+    std::size_t done = 0;
+    while (done < data.size()) {
+        const ssize_t written = write(m_file->number(), data.data() + done, data.size() - done);
         if (written <= 0)
-            return;
-        data.remove_prefix(std::size_t(written));
+            break;
+        done += std::size_t(written);
     }
+    return done;
 }
 
 void NSFileHandle::synchronizeFile()

@@ -1,87 +1,107 @@
 #include <Foundation/NSFileManager.h>
 
 #include "ErrorText.h"
-#include "FileCopy.h"
-#include "FileDescriptor.h"
+#include "OpenFolders.h"
 
 #include <cerrno>
-#include <dirent.h>
 #include <fcntl.h>
-#include <filesystem>
-#include <memory>
-#include <string_view>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
+constexpr const char* failedLook = " couldn’t be looked at";
 
-bool isFolder(const std::string& path)
+bool createNew(const std::string& path)
 {
-    struct stat status = {};
-    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
+        .isOpen();
 }
 
-std::string parentFolder(const std::string& path)
+}
+
+NSFileManager::NSFileManager(std::unique_ptr<OpenFolders> folders)
+    : m_folders(std::move(folders))
 {
-    return std::filesystem::path(path).parent_path().string();
 }
 
+NSFileManager::NSFileManager()
+    : NSFileManager(std::make_unique<OpenFolders>())
+{
 }
+
+NSFileManager::~NSFileManager() = default;
 
 const NSFileManager& NSFileManager::defaultManager()
 {
-    static const NSFileManager manager;
+    static const NSFileManager manager(nullptr);
     return manager;
 }
 
-bool NSFileManager::fileExistsAtPath(const std::string& path) const
+std::error_code NSFileManager::find(const std::string& path, Place& place) const
 {
-    bool isDirectory = false;
-    return fileExistsAtPath(path, isDirectory);
+    place = { AT_FDCWD, path };
+    return m_folders ? m_folders->find(path, place) : std::error_code();
 }
 
-bool NSFileManager::fileExistsAtPath(const std::string& path, bool& isDirectory) const
+std::error_code NSFileManager::followStatus(const std::string& path, struct stat& status) const
+{
+    Place place;
+    const auto error = find(path, place);
+    return error ? error : errorOf(fstatat(place.folder, place.name.c_str(), &status, 0));
+}
+
+std::optional<bool> NSFileManager::fileExistsAtPath(const std::string& path, NSError* error) const
+{
+    bool isDirectory = false;
+    return fileExistsAtPath(path, isDirectory, error);
+}
+
+std::optional<bool> NSFileManager::fileExistsAtPath(
+    const std::string& path, bool& isDirectory, NSError* error) const
 {
     struct stat status = {};
-    if (stat(path.c_str(), &status) != 0)
-        return false;
+    const auto reason = followStatus(path, status);
     isDirectory = S_ISDIR(status.st_mode);
-    return true;
+    if (!reason)
+        return true;
+    if (isAbsence(reason))
+        return false;
+    failBecause(error, quoted(path) + failedLook, reason);
+    return std::nullopt;
 }
 
 std::optional<std::vector<std::string>> NSFileManager::contentsOfDirectoryAtPath(
     const std::string& path, NSError* error) const
 {
-    const std::string failure = "The folder " + quoted(path) + " couldn’t be opened";
-    const std::unique_ptr<DIR, CloseFolder> folder(opendir(path.c_str()));
-    if (!folder) {
-        failBecause(error, failure, lastError());
-        return std::nullopt;
-    }
-
+    Place place;
     std::vector<std::string> names;
-    errno = 0;
-    while (const dirent* entry = readdir(folder.get())) {
-        const std::string_view name = entry->d_name;
-        if (name != "." && name != "..")
-            names.emplace_back(name);
-    }
-    if (errno != 0) {
-        failBecause(error, failure, lastError());
-        return std::nullopt;
-    }
-    return names;
+    auto reason = find(path, place);
+    if (!reason)
+        reason = readNames(place, names);
+    if (!reason)
+        return names;
+    failBecause(error, "The folder " + quoted(path) + " couldn’t be opened", reason);
+    return std::nullopt;
 }
 
-std::optional<NSFileIdentity> NSFileManager::fileIdentityAtPath(const std::string& path) const
+std::optional<std::string> NSFileManager::destinationOfSymbolicLinkAtPath(
+    const std::string& path) const
+{
+    Place place;
+    std::string destination;
+    if (find(path, place) || readLink(place, destination))
+        return std::nullopt;
+    return destination;
+}
+
+std::optional<NSFileIdentity> NSFileManager::fileIdentityAtPath(
+    const std::string& path, NSError* error) const
 {
     struct stat status = {};
-    if (stat(path.c_str(), &status) != 0)
+    if (const auto reason = followStatus(path, status)) {
+        failBecause(error, quoted(path) + failedLook, reason);
         return std::nullopt;
+    }
     return NSFileIdentity { status.st_dev, status.st_ino };
 }
 
@@ -92,38 +112,10 @@ bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
 
 bool NSFileManager::createFileAtPath(const std::string& path) const
 {
-    const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    return file.isOpen() || errno == EEXIST;
-}
-
-bool NSFileManager::createDirectoryAtPath(const std::string& path, NSError* error) const
-{
-    const auto reason = errorOf(mkdir(path.c_str(), 0777));
-    if (!reason || (reason == std::errc::file_exists && isFolder(path)))
+    if (createNew(path))
         return true;
-
-    const std::string parent = parentFolder(path);
-    const bool parentIsMissing
-        = reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory;
-    if (parentIsMissing && !parent.empty() && !isFolder(parent))
-        return createDirectoryAtPath(parent, error) && createDirectoryAtPath(path, error);
-    return failBecause(error, "The folder " + quoted(path) + " couldn’t be created", reason);
-}
-
-bool NSFileManager::copyItemAtPath(
-    const std::string& path, const std::string& toPath, NSError* error) const
-{
-    return copyItem(path, toPath, error);
-}
-
-bool NSFileManager::removeItemAtPath(const std::string& path, NSError* error) const
-{
-    auto reason = errorOf(unlink(path.c_str()));
-    if (reason == std::errc::is_a_directory)
-        reason = errorOf(rmdir(path.c_str()));
-    if (reason == std::errc::directory_not_empty) {
-        reason.clear();
-        std::filesystem::remove_all(path, reason);
-    }
-    return !reason || failBecause(error, quoted(path) + " couldn’t be removed", reason);
+    const bool isThere = errno == EEXIST;
+    const bool leadsNowhere = isThere && destinationOfSymbolicLinkAtPath(path)
+        && fileExistsAtPath(path, nullptr) == false;
+    return leadsNowhere ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
 }

@@ -1,15 +1,14 @@
 #pragma once
 
 #include "FileDescriptor.h"
-
-#include <string>
+#include "Place.h"
 
 // A file that is written out of sight and appears under its name whole, or not at all: where the
 // file system can, it has no name until then, so that nothing of it outlives the process.
 class NewFile {
 public:
-    // In the folder of `path`, the name it is to have.
-    explicit NewFile(const std::string& path);
+    // For the place it is to have.
+    explicit NewFile(Place place);
     ~NewFile();
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
@@ -24,11 +23,11 @@ public:
     std::error_code publish();
 
 private:
-    std::error_code linkNameless() const;
-    std::error_code renameTemporary();
+    std::error_code nameAndClose();
+    std::error_code closeAndRename();
 
-    const std::string m_path;
-    std::string m_temporaryPath; // empty: the file has no name yet
+    const Place m_place;
+    std::string m_temporaryName; // empty: the file has no name yet
     FileDescriptor m_descriptor;
     std::error_code m_error;
 };

@@ -1,69 +1,65 @@
 #include "NewFile.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace {
-
-std::string folderOf(const std::string& path)
+NewFile::NewFile(Place place)
+    : m_place(std::move(place))
+    , m_descriptor(openat(m_place.folder, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600))
 {
-    const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
-}
-
-}
-
-NewFile::NewFile(const std::string& path)
-    : m_path(path)
-{
-    const std::string folder = folderOf(path);
-    int number = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
-    if (number < 0 && (errno == EOPNOTSUPP || errno == EISDIR)) {
-        m_temporaryPath = folder + ".quillbarn-XXXXXX";
-        number = mkostemp(m_temporaryPath.data(), O_CLOEXEC);
-    }
-    m_error = errorOf(number);
-    m_descriptor = FileDescriptor(number);
+    m_error = errorOf(m_descriptor.number());
+    if (!isUnsupported(m_error) && m_error != std::errc::is_a_directory)
+        return;
+    m_temporaryName = ".quillbarn-" + std::to_string(getpid());
+    m_descriptor = FileDescriptor(openat(
+        m_place.folder, m_temporaryName.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600));
+    m_error = errorOf(m_descriptor.number());
 }
 
 NewFile::~NewFile()
 {
-    if (!m_error && !m_temporaryPath.empty())
-        unlink(m_temporaryPath.c_str());
+    if (!m_error && !m_temporaryName.empty())
+        unlinkat(m_place.folder, m_temporaryName.c_str(), 0);
 }
 
 std::error_code NewFile::publish()
 {
-    const auto error = m_temporaryPath.empty() ? linkNameless() : renameTemporary();
+    const auto error = m_temporaryName.empty() ? nameAndClose() : closeAndRename();
     if (!error)
-        m_temporaryPath.clear();
+        m_temporaryName.clear();
     return error;
 }
 
-std::error_code NewFile::linkNameless() const
+std::error_code NewFile::nameAndClose()
 {
     // The short way needs a privilege; without it, it answers that there is no such file.
-    const auto error
-        = errorOf(linkat(m_descriptor.number(), "", AT_FDCWD, m_path.c_str(), AT_EMPTY_PATH));
-    if (error != std::errc::no_such_file_or_directory)
+    const char* const name = m_place.name.c_str();
+    auto error = errorOf(linkat(m_descriptor.number(), "", m_place.folder, name, AT_EMPTY_PATH));
+    if (error == std::errc::no_such_file_or_directory) {
+        const std::string self = "/proc/self/fd/" + std::to_string(m_descriptor.number());
+        error = errorOf(linkat(AT_FDCWD, self.c_str(), m_place.folder, name, AT_SYMLINK_FOLLOW));
+    }
+    if (error)
         return error;
-    const std::string self = "/proc/self/fd/" + std::to_string(m_descriptor.number());
-    return errorOf(linkat(AT_FDCWD, self.c_str(), AT_FDCWD, m_path.c_str(), AT_SYMLINK_FOLLOW));
+    error = m_descriptor.close();
+    if (error)
+        unlinkat(m_place.folder, name, 0);
+    return error;
 }
 
-std::error_code NewFile::renameTemporary()
+std::error_code NewFile::closeAndRename()
 {
     if (const auto error = m_descriptor.close())
         return error;
-    const auto error = errorOf(
-        renameat2(AT_FDCWD, m_temporaryPath.c_str(), AT_FDCWD, m_path.c_str(), RENAME_NOREPLACE));
-    if (error != std::errc::invalid_argument && error != std::errc::function_not_supported)
+    const char* const from = m_temporaryName.c_str();
+    const char* const to = m_place.name.c_str();
+    const auto error
+        = errorOf(renameat2(m_place.folder, from, m_place.folder, to, RENAME_NOREPLACE));
+    if (error != std::errc::invalid_argument && !isUnsupported(error))
         return error;
     // A file system that can't refuse to replace: look first.
-    if (faccessat(AT_FDCWD, m_path.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+    if (faccessat(m_place.folder, to, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
         return make_error_code(std::errc::file_exists);
-    return errorOf(rename(m_temporaryPath.c_str(), m_path.c_str()));
+    return errorOf(renameat(m_place.folder, from, m_place.folder, to));
 }

@@ -49,6 +49,7 @@ TEST(CommandLine, theFirstOptionDecides)
              Case { { "me", "unknown", "", "-install", "/p/" }, Mode::install, "/p/" },
              Case { { "me", "-install", "" }, Mode::install, "" },
              Case { { "me", "-install", "/not \xFF UTF-8/" }, Mode::install, "/not \xFF UTF-8/" },
+             Case { { "me", "\uFEFF", "-install", "\uFEFF/p/" }, Mode::install, "\uFEFF/p/" },
              Case { { "'-uninstall'" }, Mode::uninstall, "" },
          })
         expectOption(c);

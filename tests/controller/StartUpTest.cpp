@@ -5,6 +5,7 @@
 #include "support/MainLoop.h"
 #include "support/Screen.h"
 #include "support/TestWindow.h"
+#include "support/Tree.h"
 
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSButton.h>
@@ -14,6 +15,8 @@
 #include <AppKit/NSTextField.h>
 
 #include <gtest/gtest.h>
+#include <pthread.h>
+#include <thread>
 
 using Lines = std::vector<std::string>;
 
@@ -64,6 +67,60 @@ TEST(StartUp, theWindowShowsWhatEachModeDoesAndHowItEnded)
         EXPECT_EQ(buttonDescription(), fails ? run.log.back().substr(2) : "");
         EXPECT_EQ(readLog(), run.log);
     }
+}
+
+TEST(StartUp, aTestRunLeavesTheBundleAloneAndTheWindowOpenAfterARemoval)
+{
+    onPause([](double) {});
+    writeFile("/tmp/source/quillbarn.app/new");
+    writeFile("/Applications/quillbarn.app/old");
+    for (const bool isRemoval : { true, false }) {
+        setArguments({ "me" });
+        const TestWindow window;
+        ViewController& controller = *window.controller;
+        controller.m_test = true;
+        controller.resultButton->setEnabled(false);
+        clearLog();
+        std::thread task([&] {
+            isRemoval ? controller.uninstallBundle() : controller.installBundle("/tmp/source/");
+        });
+        EXPECT_TRUE(runMainLoopUntil(
+            [&] { return controller.resultButton->isEnabled() || !isWindowOnScreen(); }));
+        task.join();
+        EXPECT_EQ(isWindowOnScreen(), isRemoval);
+        EXPECT_EQ(readLog().back(), "d completed");
+        EXPECT_EQ(readTree("/Applications/quillbarn.app").count("old"), 1u);
+    }
+    removeTree("/Applications/quillbarn.app");
+}
+
+TEST(StartUp, aRemovalThatFailsSaysSoInTheTitle)
+{
+    writeFile("/Applications/quillbarn.app", "a file");
+    setArguments({ "me", "-uninstall" });
+    const TestWindow window;
+    EXPECT_TRUE(runMainLoopUntil([&] { return isPaneOpen(*window.controller); }));
+    EXPECT_EQ(windowTitle(), "quillbarn could not be removed");
+    removeTree("/Applications/quillbarn.app");
+}
+
+TEST(StartUp, withoutAThreadTheRunFailsAndSaysSo)
+{
+    clearLog();
+    setArguments({ "me", "-uninstall" });
+    pthread_attr_t usual;
+    pthread_getattr_default_np(&usual);
+    pthread_attr_t tooLarge = usual;
+    pthread_attr_setstacksize(&tooLarge, std::size_t(1) << 50);
+    pthread_setattr_default_np(&tooLarge);
+    const TestWindow window;
+    pthread_setattr_default_np(&usual);
+    EXPECT_TRUE(runMainLoopUntil([&] { return isPaneOpen(*window.controller); }));
+    EXPECT_EQ(windowTitle(), "quillbarn could not be removed");
+    EXPECT_EQ(readLog(),
+        (Lines { "n installer start", "d uninstall ", "d ",
+            "d The work couldn’t be started because the system refused (Resource temporarily "
+            "unavailable)." }));
 }
 
 TEST(StartUp, withoutAnOptionThePaneOpensAndWaits)

@@ -24,6 +24,7 @@ TEST(MountPoint, isThatOfTheFirstVolumeWhosePathBeginsThePath)
             Case { { installer }, "/tmp//Volumes/quillbarn installer/x", "" },
             Case { { installer }, "/volumes/quillbarn installer/x", "" },
             Case { { "/", installer }, "/Applications/quillbarn.app", "" },
+            Case { { "/", installer }, "//Volumes/quillbarn installer/x", "" },
             Case { { "/", "/Applications" }, "/Applications/quillbarn.app", "/Applications" },
             Case { { "/a", "/a/b" }, "/a/b/c", "/a" },
             Case { { "/a/b", "/a" }, "/a/b/c", "/a/b" },

@@ -3,9 +3,10 @@
 #include "support/Tree.h"
 
 #include <array>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <regex>
-#include <sys/stat.h>
+#include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
 
@@ -50,10 +51,22 @@ TEST_F(LoggerTest, keepsWhatTheFileHolds)
     EXPECT_TRUE(content.ends_with(" n new\n"));
 }
 
-TEST_F(LoggerTest, doesNotWaitForAPipeInItsPlace)
+TEST_F(LoggerTest, endsAnEntryThatWasCutShortBeforeTheNext)
 {
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-    Logger(path).log("dropped", Level::normal);
+    std::signal(SIGXFSZ, SIG_IGN);
+    Logger logger(path);
+    logger.log("whole", Level::normal);
+    rlimit usual {};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit full { readFile(path).size() + 10, usual.rlim_max };
+    setrlimit(RLIMIT_FSIZE, &full);
+    logger.log("cut short", Level::normal);
+    logger.log("dropped", Level::normal);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    logger.log("next", Level::normal);
+    EXPECT_TRUE(std::regex_match(
+        readFile(path), std::regex(R"([^\n]* n whole\n\d{4}/\d\d/\d\d\n[^\n]* n next\n)")))
+        << readFile(path);
 }
 
 TEST_F(LoggerTest, dropsWhatComesAfterTheClose)

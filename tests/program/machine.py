@@ -10,19 +10,20 @@ import unittest
 LOG = "/tmp/quillbarninstaller.log"
 BUNDLE = "/Applications/quillbarn.app"
 SOURCE = "/tmp/source/"
+INSTALLER = ".*(quillbarn|disk image).*"  # its window's title
 MARGIN = 20  # of the window, beside the bar
 
 # Names of any bytes are text here, as Python has it for paths.
 BYTES = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
 
 
-def await_that(condition, seconds=20):
+def await_that(condition, seconds=20, pause=0.005):
     """Returns what the condition gives as soon as that is true."""
     end = time.monotonic() + seconds
     while not (result := condition()):
         if time.monotonic() > end:
             raise TimeoutError
-        time.sleep(0.005)
+        time.sleep(pause)
     return result
 
 
@@ -32,6 +33,13 @@ RUNNING = []  # what runs until the machine is gone
 def keep_running(*command, **options):
     RUNNING.append(subprocess.Popen(command, **options))
     return RUNNING[-1]
+
+
+def start_bus():
+    """A bus of the test's own. Its address."""
+    bus = keep_running("dbus-daemon", "--session", "--nofork", "--print-address",
+                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    return bus.stdout.readline().decode().strip()
 
 
 def write(path, content=""):
@@ -68,16 +76,22 @@ def read_log():
     """The entries as "level message", whatever their time and process."""
     entries = []
     for line in read(LOG).split("\n")[:-1]:
-        match = re.fullmatch(r"\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d \d+ ([nd] .*)", line, re.DOTALL)
+        match = re.fullmatch(r"\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d \d+ ([nde] .*)", line, re.DOTALL)
         entries.append(match[1] if match else "not an entry: " + line)
     return entries
 
 
+def mount(test, place, *arguments):
+    """Until the test is over. A place that is not there becomes a folder."""
+    if not os.path.exists(place):
+        os.makedirs(place)
+    subprocess.run(["mount", *arguments, place], check=True)
+    test.addCleanup(subprocess.run, ["umount", "--lazy", place], check=True)
+
+
 def mount_memory(test, folder, size):
-    """A volume of that size, mounted until the test is over."""
-    os.makedirs(folder, exist_ok=True)
-    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=" + size, "none", folder], check=True)
-    test.addCleanup(subprocess.run, ["umount", "--lazy", folder], check=True)
+    """A volume of that size."""
+    mount(test, folder, "-t", "tmpfs", "-o", "size=" + size, "none")
 
 
 class Screen:
@@ -87,22 +101,25 @@ class Screen:
         os.makedirs("/run/user", 0o700, exist_ok=True)
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
         ours, servers = os.pipe()
-        keep_running(
+        self.server = keep_running(
             "Xvfb", "-displayfd", str(servers), "-noreset", "-screen", "0", size + "x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
+        os.close(servers)  # so that the end of a server that couldn't start shows
         self.display = ":" + os.read(ours, 9).decode().strip()
         self.window_manager = None
         self._manage_windows()
 
     def _manage_windows(self):
-        """Once more where that is over: the window manager ends by itself now and then."""
+        """Once more where that is over: the window manager ends by itself now and then. Whether it
+        had to."""
         if self.window_manager and self.window_manager.poll() is None:
-            return
+            return False
         self.window_manager = keep_running(
             "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
             env=os.environ | {"DISPLAY": self.display})
         # Or it may forget a window that comes at that moment.
         await_that(lambda: self._xdotool("get_num_desktops"))
+        return True
 
     def _xdotool(self, *arguments):
         return subprocess.run(
@@ -110,14 +127,15 @@ class Screen:
             env=os.environ | {"DISPLAY": self.display}).stdout
 
     def press(self, key):
+        if self._manage_windows():  # the new one has given no window the keyboard
+            self._xdotool("search", "--onlyvisible", "--name", INSTALLER, "windowactivate")
         self._xdotool("key", key)
 
     def close_window(self):
         """What the close control in the window's frame does."""
-        self._manage_windows()
         self.press("alt+F4")
 
-    def await_window(self, title=".*(quillbarn|disk image).*"):
+    def await_window(self, title=INSTALLER):
         """Its number, once it is on the screen with that title. It gets the keyboard: a window that
         comes while somebody types elsewhere is not given it by the window manager."""
         self._manage_windows()
@@ -127,16 +145,16 @@ class Screen:
         return window
 
     def size(self, window):
-        """Width and height, without the frame."""
+        """Width and height, without the frame; none once it has gone."""
         lines = self._xdotool("getwindowgeometry", "--shell", window).splitlines()
         values = dict(line.split("=") for line in lines)
-        return int(values["WIDTH"]), int(values["HEIGHT"])
+        return (int(values["WIDTH"]), int(values["HEIGHT"])) if values else None
 
     def click(self, window, right, bottom):
-        """At so many pixels from the window's right and lower edge, as far as the screen goes."""
-        width, height = self.size(window)
-        self._xdotool(
-            "mousemove", "--window", window, str(width - right), str(height - bottom), "click", "1")
+        """At so many pixels from the window's right and lower edge, as long as it is there."""
+        if size := self.size(window):
+            self._xdotool("mousemove", "--window", window, str(size[0] - right), str(size[1] - bottom),
+                          "click", "1")
 
     def bar(self, window):
         """How much of the bar in the window is filled, by its colour."""
@@ -177,6 +195,10 @@ class InstallerTest(unittest.TestCase):
         remove(LOG)
         self.expect_orderly_end(self.start(*arguments, **options))
         return read_log()
+
+    def expect_same(self, found, tree):
+        wrong = {path for path, _ in found.items() ^ tree.items()}
+        self.assertEqual(len(wrong), 0, f"such as “{min(wrong, default='')}”")
 
     def press_until_closed(self, installer, key="Return"):
         self.screen.await_window()

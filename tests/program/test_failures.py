@@ -1,7 +1,9 @@
 import os
 import subprocess
+from resource import RLIMIT_FSIZE, setrlimit
 
-from machine import BUNDLE, LOG, SOURCE, InstallerTest, mount_memory, read, read_tree, write
+from machine import (
+    BUNDLE, LOG, SOURCE, InstallerTest, mount_memory, read, read_log, read_tree, remove, write)
 
 FILE = "quillbarn.app/Contents/file"
 
@@ -37,11 +39,12 @@ class Failure(InstallerTest):
 
     def test_the_installed_bundle_as_its_own_source(self):
         os.symlink("/Applications", SOURCE + "link")
-        for source in "/Applications/", SOURCE + "link/":
+        os.symlink(BUNDLE, SOURCE + "quillbarn.app/link")
+        for source, name in ("/Applications/", ""), (SOURCE + "link/", ""), (SOURCE, "/link"):
             self.expect_end(
                 self.run_and_press("-install", source), "n install bundle",
-                f"“{source}quillbarn.app” couldn’t be installed as “{BUNDLE}” because these are "
-                "one folder, or one holds the other.")
+                f"“{source}quillbarn.app{name}” couldn’t be installed because it is “{BUNDLE}”, "
+                "which would be emptied first.")
         self.expect_installed({"kept": "installed"})
 
     def test_a_full_volume(self):
@@ -52,6 +55,14 @@ class Failure(InstallerTest):
             f"“{SOURCE + FILE}” couldn’t be copied to “/Applications/{FILE}” because the volume "
             "is out of space (No space left on device).")
         self.expect_installed({"Contents": None})
+
+    def test_a_limit_to_the_size_of_a_file(self):
+        self.press_until_closed(self.start("-install", SOURCE, preexec_fn=lambda: setrlimit(
+            RLIMIT_FSIZE, (1_000_000, 1_000_000))))
+        self.expect_end(
+            read_log(), "d  copy /Applications/" + FILE,
+            f"“{SOURCE + FILE}” couldn’t be copied to “/Applications/{FILE}” because it is larger "
+            "than a file may be (File too large).")
 
     def test_a_read_only_volume(self):
         mount_memory(self, "/Applications", "1m")
@@ -64,40 +75,43 @@ class Failure(InstallerTest):
                 "(Read-only file system).")
         self.expect_installed({"kept": "installed"})
 
-    def test_a_mount_point_in_the_bundle(self):
-        mount_memory(self, BUNDLE + "/mount", "1m")
-        self.expect_end(
-            self.run_and_press("-uninstall"), f"d remove {BUNDLE}/mount/",
-            f"“{BUNDLE}/mount” couldn’t be removed because it is in use, or another volume is "
-            "mounted there (Device or resource busy).")
-        self.assertIn("mount", os.listdir(BUNDLE))
-
     def test_a_link_that_leads_out_of_the_bundle(self):
         write("/tmp/desktop/letter", "dear")
         os.symlink("/tmp/desktop", BUNDLE + "/link")
-        self.expect_end(
-            self.run_and_press("-uninstall"), f"d remove {BUNDLE}/link/letter",
-            f"“{BUNDLE}/link/letter” couldn’t be removed because it is not in the bundle: "
-            f"“{BUNDLE}/link” leads to “/tmp/desktop”.")
+        for arguments in ["-install", SOURCE], ["-uninstall"]:
+            self.expect_end(
+                self.run_and_press(*arguments), f"n {arguments[0][1:]} bundle",
+                f"“{BUNDLE}” couldn’t be changed because the link “{BUNDLE}/link” leads out of it, "
+                "to “/tmp/desktop”.")
         self.assertEqual(read("/tmp/desktop/letter"), "dear")
-
-    def test_a_link_that_leads_out_of_the_bundle_and_back(self):
-        os.mkdir("/tmp/outside")
-        os.symlink("/tmp/outside", BUNDLE + "/link")
-        os.symlink(BUNDLE + "/folder", "/tmp/outside/back")
-        write(BUNDLE + "/folder/file", "removed through the links, whose turn comes first")
-        self.expect_end(
-            self.run_and_press("-uninstall"), f"d remove {BUNDLE}/link/back/",
-            f"“{BUNDLE}/link/back” couldn’t be removed because it is not in the bundle: "
-            f"“{BUNDLE}/link” leads to “/tmp/outside”.")
-        self.assertTrue(os.path.islink("/tmp/outside/back"))
+        self.expect_installed({"kept": "installed", "link": "-> /tmp/desktop"})
 
     def test_a_link_in_the_place_of_the_bundle(self):
-        write("/tmp/desktop/letter", "dear")
-        os.rename(BUNDLE, "/tmp/elsewhere")
+        os.rename(BUNDLE, "/tmp/desktop")
         os.symlink("/tmp/desktop", BUNDLE)
-        self.run_and_press("-install", SOURCE)
-        self.assertEqual(read_tree("/tmp/desktop"), {"letter": "dear"})
+        for letters in True, False:
+            for arguments in ["-install", SOURCE], ["-uninstall"]:
+                self.expect_end(
+                    self.run_and_press(*arguments), f"n {arguments[0][1:]} bundle",
+                    f"“{BUNDLE}” couldn’t be changed because it is a link, to “/tmp/desktop”.")
+            self.assertEqual(os.listdir("/tmp/desktop"), ["kept"] if letters else [])
+            remove("/tmp/desktop/kept")
+
+    def test_a_link_that_leads_nowhere_in_the_place_of_an_entry(self):
+        os.symlink("../License.txt", SOURCE + "quillbarn.app/License.txt")
+        write(SOURCE + "License.txt")
+        write(SOURCE + "quillbarn.app/notes")
+        self.run_installer("-install", SOURCE)
+        for name, target in ("License.txt", "../License.txt"), ("notes", "gone"):
+            remove(f"{BUNDLE}/{name}")
+            os.symlink(target, f"{BUNDLE}/{name}")
+            self.expect_end(
+                self.run_and_press("-install", SOURCE), "n install bundle",
+                f"“{BUNDLE}/{name}” couldn’t be installed because a link that leads nowhere has "
+                "its place. Uninstall first, which removes the link, too.")
+            self.assertTrue(os.path.exists(f"/Applications/{FILE}"))
+            for arguments in ["-uninstall"], ["-install", SOURCE]:
+                self.assertEqual(self.run_installer(*arguments)[-2], "d completed")
 
     def test_a_file_in_the_place_of_the_bundle(self):
         os.rename(BUNDLE, "/tmp/away")

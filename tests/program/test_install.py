@@ -74,6 +74,14 @@ class Install(InstallerTest):
         status = os.stat(BUNDLE + "/練習")
         self.assertEqual((status.st_mode & 0o7777, status.st_mtime_ns), (0o751, 2))
 
+    def test_removes_a_bundle_whose_links_lead_to_its_own_folders(self):
+        write(BUNDLE + "/Versions/A/Core/program")
+        for name, target in ("Versions/Current", "A"), ("Core", "Versions/Current/Core"):
+            os.symlink(target, f"{BUNDLE}/{name}")
+        expected = self.UNINSTALL + removed() + self.END
+        self.assertEqual(self.run_installer("-uninstall"), expected)
+        self.assertEqual(os.listdir("/Applications"), [])
+
     def test_an_empty_path_means_the_working_folder(self):
         os.mkdir(SOURCE + "quillbarn.app")
         self.assertEqual(

@@ -3,7 +3,7 @@ import os
 import re
 import time
 
-from machine import BUNDLE, LOG, SOURCE, InstallerTest, read, read_log, write
+from machine import LOG, SOURCE, InstallerTest, read, read_log, write
 
 TRACE = "/tmp/trace"
 
@@ -25,19 +25,22 @@ class Log(InstallerTest):
         """The system calls of a run on the log, and those that create or remove something."""
         self.run_installer(*arguments, command=[
             "strace", "--follow-forks", "--decode-fds=path", "--string-limit=1024", "--output=" + TRACE,
-            "--trace=openat,write,fdatasync,mkdir,mkdirat,link,linkat,unlink,unlinkat,rmdir",
+            "--trace=openat,write,fdatasync,mkdirat,linkat,unlinkat,syncfs",
             os.environ["INSTALLER"]])
         calls = re.findall(r"^\d+ +(\w+)\((.*)", read(TRACE), re.MULTILINE)
-        return [(call, rest) for call, rest in calls if LOG in rest or BUNDLE in rest]
+        return [(call, rest) for call, rest in calls if LOG in rest or "/Applications" in rest]
 
     def test_each_entry_is_one_write_and_on_the_disk_before_the_next_step(self):
         write(SOURCE + "quillbarn.app/folder/file")
         calls = self.trace("-install", SOURCE)
         opened = [rest for call, rest in calls if call == "openat" and "O_APPEND" in rest]
         self.assertEqual(len(opened), 1)
-        calls = [call if LOG in rest else "step" for call, rest in calls if call != "openat"]
-        self.assertEqual([call for call in calls if call != "step"], ["write", "fdatasync"] * len(read_log()))
+        calls = [call if LOG in rest or call == "syncfs" else "step"
+                 for call, rest in calls if call != "openat"]
+        self.assertEqual([call for call in calls if call in ("write", "fdatasync")],
+                         ["write", "fdatasync"] * len(read_log()))
         self.assertEqual([calls[i - 1] for i, call in enumerate(calls) if call == "step"], ["fdatasync"] * 3)
+        self.assertEqual(calls[-5:], ["syncfs", *["write", "fdatasync"] * 2])  # completed, exit
 
     def test_the_time_is_local(self):
         before = zone_with_distinct_fields() and time.time()

@@ -165,7 +165,7 @@ struct UnmountCase {
     int freeFrom; // the first attempt at which the volume is not in use
     int attempts;
     Lines lines; // after the first
-    enum class Path { goes, stays, isOnNoVolume } path = Path::goes;
+    enum class Path { goes, stays, isOnNoVolume, isTooLongToBeLookedAt } path = Path::goes;
 };
 
 class Unmount : public Tasks, public testing::WithParamInterface<UnmountCase> { };
@@ -176,8 +176,9 @@ TEST_P(Unmount, triesUntilThePathHasGoneButNotMoreThanSevenTimes)
 {
     const UnmountCase& c = GetParam();
     const TemporaryFolder volume;
-    const std::string path = volume / "quillbarn.app";
-    if (c.attempts > 0)
+    const bool isTooLong = c.path == UnmountCase::Path::isTooLongToBeLookedAt;
+    const std::string path = volume / (isTooLong ? std::string(300, 'x') : "quillbarn.app");
+    if (c.attempts > 0 && !isTooLong)
         writeFile(path);
     const bool isOnVolume = c.path != UnmountCase::Path::isOnNoVolume;
     setMountedVolumes(isOnVolume ? Lines { volume.path() } : Lines {});
@@ -233,6 +234,8 @@ INSTANTIATE_TEST_SUITE_P(Tasks, Unmount,
         UnmountCase { "notEjected", refusingToEject, 1, 1, pausesAnd(1, "unmount succeeded") },
         UnmountCase { "ejectedButStillThere", granting, 1, 1, pausesAnd(0, "failed"),
             UnmountCase::Path::stays },
+        UnmountCase { "notToBeLookedAt", granting, 1, 1, pausesAnd(0, "failed"),
+            UnmountCase::Path::isTooLongToBeLookedAt },
         UnmountCase { "noSession", withoutSession, 1, 7, pausesAnd(7, "failed") },
         UnmountCase { "noDisk", withoutDisk, 1, 7, pausesAnd(7, "failed") },
         UnmountCase { "noVolume", granting, 1, 1, pausesAnd(0, "failed", "task"),

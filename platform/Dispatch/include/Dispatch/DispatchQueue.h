@@ -13,7 +13,8 @@ public:
     static DispatchMainQueue& main();
 
     // The background queue: everything submitted runs at once, each on a thread of its own, which
-    // nobody waits for when the process ends.
+    // nobody waits for when the process ends. Unlike on the platform, async() throws an NSError
+    // where no thread can be had.
     static DispatchQueue& global();
 
     // Returns at once. Safe on any thread.

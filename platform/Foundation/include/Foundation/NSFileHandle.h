@@ -9,7 +9,9 @@ class FileDescriptor;
 // A file opened for writing. One thread at a time. A write or flush that fails is dropped.
 class NSFileHandle {
 public:
-    // The file at `path`, which must exist and be no folder; nullptr where it can't be opened.
+    // The file at `path`, which must exist; nullptr where it can't be opened. Unlike in Foundation,
+    // a link is not followed, and only a file of data with no other name is opened: what is written
+    // lands in no place that someone else has chosen.
     // Unlike Foundation, every write goes to the end the file has at that moment, so that several
     // programs can write to one file and lose nothing of each other.
     static std::shared_ptr<NSFileHandle> fileHandleForWritingAtPath(const std::string& path);
@@ -19,8 +21,9 @@ public:
     NSFileHandle(const NSFileHandle&) = delete;
     NSFileHandle& operator=(const NSFileHandle&) = delete;
 
-    // Hands all of `data` to the system in one piece.
-    void writeData(std::string_view data);
+    // Hands all of `data` to the system in one piece. Unlike in Foundation, answers how many bytes
+    // of it the file has got.
+    std::size_t writeData(std::string_view data);
 
     // Returns when what was written is on the disk.
     void synchronizeFile();
