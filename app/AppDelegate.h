@@ -6,6 +6,8 @@ class AppDelegate : public NSApplicationDelegate {
 public:
     void applicationDidFinishLaunching() override;
 
+    void applicationDidLoseDisplay() override;
+
     // Writes the last line of the log and closes it.
     void applicationWillTerminate() override;
 

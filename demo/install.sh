@@ -34,7 +34,7 @@ demo_install() {
 
     echo "Installing $(find build/demo/quillbarn.app | wc -l) entries into /Applications/quillbarn.app"
     # A full bar stands for a second; a pane takes half of one to open.
-    show install 0 -install "$PWD/build/demo/"
+    show install 0.5 -install "$PWD/build/demo/"
     [ "$screen_in_memory" = no ] || show failure 0.7 -install "$PWD/build/demo"
     show_log
     cat <<END

@@ -12,6 +12,7 @@
 #include <array>
 #include <cassert>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
@@ -33,6 +34,13 @@ void openStandardDescriptors()
         lowest = open("/dev/null", O_RDWR);
     while (lowest >= 0 && lowest <= STDERR_FILENO);
     close(lowest);
+}
+
+// A log or a pipe that can't be written to is dealt with where that is tried.
+void ignoreSignalsOfWriting()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 // Without an address the bus library would launch a bus.
@@ -104,6 +112,15 @@ void NSApplication::activateIgnoringOtherApps()
     m_isToBeActive = true;
 }
 
+// The toolkit has no other way to say it: it calls exit(), which nothing else in the program does.
+void NSApplication::endWithoutDisplay()
+{
+    NSApplicationDelegate& delegate = *sharedApplication().m_delegate;
+    delegate.applicationDidLoseDisplay();
+    delegate.applicationWillTerminate();
+    _exit(EXIT_FAILURE);
+}
+
 void NSApplication::terminate()
 {
     m_delegate->applicationWillTerminate();
@@ -121,6 +138,7 @@ int NSApplication::run()
             terminate();
     });
     m_delegate->applicationDidFinishLaunching();
+    std::atexit(endWithoutDisplay);
     window->makeKeyAndOrderFront();
     QWidget& widget = *QApplication::topLevelWidgets().first();
     awaitFirstFrame(widget);
@@ -135,6 +153,7 @@ int NSApplication::run()
 int NSApplicationMain(int argc, const char* const argv[])
 {
     openStandardDescriptors();
+    ignoreSignalsOfWriting();
     keepFromLaunchingABus();
 
     // Qt gets only argv[0]; the program reads its arguments through NSProcessInfo.

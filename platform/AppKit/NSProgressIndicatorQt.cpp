@@ -53,7 +53,8 @@ private:
 
     void show()
     {
-        const double done = (doubleValue() - m_minValue) / (m_maxValue - m_minValue);
+        const double done
+            = (ProgressIndicatorQt::doubleValue() - m_minValue) / (m_maxValue - m_minValue);
         widget().setValue(int(std::lround(done * steps)));
         if (widget().isVisible())
             m_frame.start();

@@ -1,19 +1,25 @@
 #include "TextQt.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 TextQt::TextQt(QPlainTextEdit& edit)
     : m_edit(edit)
 {
     m_edit.installEventFilter(this);
+    m_edit.viewport()->installEventFilter(this);
     const QScrollBar* const bar = m_edit.verticalScrollBar();
-    QObject::connect(bar, &QScrollBar::rangeChanged, this, [this] { settle(); });
-    QObject::connect(bar, &QScrollBar::valueChanged, this,
-        [this, bar](int value) { m_isAtEnd = value == bar->maximum(); });
+    QObject::connect(bar, &QScrollBar::rangeChanged, this, [this] { stayAtEnd(); });
+    QObject::connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) {
+        if (!m_isLayingOut)
+            m_isAtEnd = value == bar->maximum();
+    });
 }
 
 void TextQt::setValue(std::string_view text)
@@ -70,23 +76,39 @@ void TextQt::scrollTo(int row)
 {
     m_firstRow = row;
     m_isAtEnd = row >= rows() - visibleRows();
-    settle();
-}
-
-void TextQt::settle()
-{
     if (!isSeen())
         return;
-    QScrollBar& bar = *m_edit.verticalScrollBar();
-    bar.setValue(m_isAtEnd ? bar.maximum() : m_firstRow);
+    m_edit.verticalScrollBar()->setValue(row);
+    stayAtEnd();
+}
+
+void TextQt::stayAtEnd()
+{
+    if (isSeen() && m_isAtEnd)
+        m_edit.verticalScrollBar()->setValue(m_edit.verticalScrollBar()->maximum());
+}
+
+// On the way to a new size the widget scrolls to and fro, which nobody asked it to.
+void TextQt::awaitLayout()
+{
+    if (!std::exchange(m_isLayingOut, true))
+        QTimer::singleShot(0, this, [this] {
+            m_isLayingOut = false;
+            // The rows of a line are known once it is laid out, and the widget counts them before.
+            auto& layout = *m_edit.document()->documentLayout();
+            Q_EMIT layout.documentSizeChanged(layout.documentSize());
+            stayAtEnd();
+        });
 }
 
 bool TextQt::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Show) {
+    if (event->type() == QEvent::Resize)
+        awaitLayout();
+    if (watched == &m_edit && event->type() == QEvent::Show) {
         publish();
         m_edit.moveCursor(QTextCursor::End);
-        settle();
+        scrollTo(m_isAtEnd ? rows() : m_firstRow);
     }
     return QObject::eventFilter(watched, event);
 }

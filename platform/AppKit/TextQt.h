@@ -29,7 +29,8 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool isSeen() const { return m_edit.isVisible(); }
     void publish();
-    void settle();
+    void stayAtEnd();
+    void awaitLayout();
 
     QPlainTextEdit& m_edit;
     std::string m_value;
@@ -37,4 +38,5 @@ private:
     std::size_t m_published = 0; // how many bytes of the value the widget holds
     int m_firstRow = 0; // as long as it can't be seen
     bool m_isAtEnd = true;
+    bool m_isLayingOut = false;
 };

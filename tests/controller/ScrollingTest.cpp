@@ -41,9 +41,9 @@ protected:
 TEST_F(Scrolling, aMessageIsFollowedFromLessThanTwentyPointsFromTheEnd)
 {
     struct Case {
-        CGFloat position;
-        CGFloat height;
-        CGFloat visibleHeight;
+        CGFloat position = 0;
+        CGFloat height = 0;
+        CGFloat visibleHeight = 0;
         std::optional<CGFloat> end;
     };
     for (const Case& c : { Case { 300, 500, 200, 400 }, Case { 280.5, 500, 200, 400 },

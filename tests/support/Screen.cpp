@@ -74,6 +74,12 @@ void press(int key)
     }
 }
 
+void pressInText(int key)
+{
+    window().findChild<QPlainTextEdit*>()->setFocus();
+    press(key);
+}
+
 void resizeWindow(int width, int height)
 {
     window().resize(width, height);

@@ -15,4 +15,5 @@ std::string firstShownRow();
 std::string lastShownRow();
 
 void press(int key); // a Qt::Key, where the keyboard is
+void pressInText(int key);
 void resizeWindow(int width, int height);

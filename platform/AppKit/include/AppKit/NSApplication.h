@@ -12,6 +12,10 @@ public:
 
     virtual void applicationDidFinishLaunching() = 0;
 
+    // Unlike with AppKit, the window's display may go away in the middle of a run, whose end that
+    // is: applicationWillTerminate() follows, and the process ends with 1.
+    virtual void applicationDidLoseDisplay() = 0;
+
     // The process ends right after this.
     virtual void applicationWillTerminate() = 0;
 
@@ -36,6 +40,7 @@ private:
     friend int NSApplicationMain(int argc, const char* const argv[]);
 
     int run();
+    static void endWithoutDisplay();
 
     std::shared_ptr<NSApplicationDelegate> m_delegate;
     bool m_isToBeActive = false;
