@@ -3,44 +3,25 @@
 #include "DASessionUDisks2.h"
 
 #include <Dispatch/DispatchQueue.h>
-
-#include <QDBusArgument>
+#include <Foundation/NSError.h>
 
 #include <algorithm>
 #include <chrono>
+#include <string_view>
 #include <thread>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr const char* blockInterface = "org.freedesktop.UDisks2.Block";
-constexpr const char* driveInterface = "org.freedesktop.UDisks2.Drive";
-constexpr const char* filesystemInterface = "org.freedesktop.UDisks2.Filesystem";
-constexpr const char* loopInterface = "org.freedesktop.UDisks2.Loop";
-constexpr const char* partitionInterface = "org.freedesktop.UDisks2.Partition";
-
 // How long a device whose image was detached may take to let go of it.
 constexpr auto detachLimit = 2s;
 constexpr auto detachInterval = 20ms;
 
-template <class Value>
-Value property(const UDisks2::Interfaces& object, const char* interface, const char* name)
+bool isMountedAt(const UDisks2::Object& object, const std::string& path)
 {
-    return qdbus_cast<Value>(object.value(interface).value(name));
-}
-
-// Paths come as bytes up to a NUL.
-std::string pathProperty(const UDisks2::Interfaces& object, const char* interface, const char* name)
-{
-    return property<QByteArray>(object, interface, name).constData();
-}
-
-bool isMountedAt(const UDisks2::Interfaces& object, const std::string& path)
-{
-    const auto mountPoints = property<QByteArrayList>(object, filesystemInterface, "MountPoints");
     return std::ranges::any_of(
-        mountPoints, [&](const QByteArray& place) { return path == place.constData(); });
+        object.mountPoints, [&](const QByteArray& place) { return path == place.constData(); });
 }
 
 }
@@ -51,7 +32,7 @@ public:
     DADisk(DASessionRef session, const UDisks2::Objects& objects, const QDBusObjectPath& volume);
 
     // Whether it was granted.
-    bool unmount() const { return service().call(m_volume, filesystemInterface, "Unmount"); }
+    bool unmount() const { return service().call(m_volume, "Filesystem", "Unmount"); }
     bool eject() const { return m_image.empty() ? ejectDrive() : detachImage(); }
 
     const DASessionRef& session() const { return m_session; }
@@ -74,19 +55,17 @@ DADisk::DADisk(DASessionRef session, const UDisks2::Objects& objects, const QDBu
     , m_volume(volume)
 {
     const auto object = objects.value(volume);
-    const bool isPartition = object.contains(partitionInterface);
-    m_wholeDisk
-        = isPartition ? property<QDBusObjectPath>(object, partitionInterface, "Table") : volume;
-    m_drive = property<QDBusObjectPath>(object, blockInterface, "Drive");
-    m_image = pathProperty(objects.value(m_wholeDisk), loopInterface, "BackingFile");
+    m_wholeDisk = object.table.path().isEmpty() ? volume : object.table;
+    m_drive = object.drive;
+    m_image = objects.value(m_wholeDisk).backingFile.constData();
 }
 
 // The device may have got another image meanwhile. That of a file which has been deleted meanwhile
 // goes by its old name and " (deleted)".
 bool DADisk::isImageAttached(const UDisks2::Objects& objects) const
 {
-    return pathProperty(objects.value(m_wholeDisk), loopInterface, "BackingFile")
-        .starts_with(m_image);
+    const QByteArray file = objects.value(m_wholeDisk).backingFile;
+    return std::string_view(file.constData()).starts_with(m_image);
 }
 
 bool DADisk::detachImage() const
@@ -103,7 +82,7 @@ bool DADisk::detachImage() const
         // The answer tells nothing: it is yes for a device that is in use and keeps its image, and
         // no for one that has let go of it by itself after the unmount.
         if (!isAsked)
-            service().call(m_wholeDisk, loopInterface, "Delete");
+            service().call(m_wholeDisk, "Loop", "Delete");
         std::this_thread::sleep_for(detachInterval);
     }
 }
@@ -111,8 +90,8 @@ bool DADisk::detachImage() const
 bool DADisk::ejectDrive() const
 {
     const auto objects = service().objects();
-    return objects && property<bool>(objects->value(m_drive), driveInterface, "Ejectable")
-        && service().call(m_drive, driveInterface, "Eject");
+    return objects && objects->value(m_drive).isEjectable
+        && service().call(m_drive, "Drive", "Eject");
 }
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session, const NSURL& path)
@@ -129,17 +108,22 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session
 
 namespace {
 
-// On a thread of its own, as the calls to the service wait for their answers.
+// On a thread of its own, as the calls to the service wait for their answers. Where there is none,
+// that is a refusal.
 void request(const DADiskRef& disk, bool (DADisk::*work)() const, DADiskUnmountCallback callback,
     void* context)
 {
-    DispatchQueue::global().async([=] {
-        const bool isGranted = (disk.get()->*work)();
+    const auto answer = [=](bool isGranted) {
         disk->session()->deliver([=] {
             const DADissenter dissenter;
             callback(disk, isGranted ? nullptr : &dissenter, context);
         });
-    });
+    };
+    try {
+        DispatchQueue::global().async([=] { answer((disk.get()->*work)()); });
+    } catch (const NSError&) {
+        answer(false);
+    }
 }
 
 }

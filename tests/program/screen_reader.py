@@ -2,10 +2,9 @@
 
 import os
 import shutil
-import subprocess
 import unittest
 
-from machine import InstallerTest, await_that, keep_running
+from machine import InstallerTest, await_that, start_bus
 
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 LACK = None if shutil.which(LAUNCHER) else "there is no " + LAUNCHER
@@ -51,10 +50,7 @@ class ScreenReaderTest(InstallerTest):
         if LACK:
             raise (RuntimeError if os.environ.get("CI") else unittest.SkipTest)(LACK)
         super().setUpClass()
-        bus = keep_running(
-            "dbus-daemon", "--session", "--nofork", "--print-address",
-            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = start_bus()
         os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         cls.heard = []
         cls.listener = Atspi.EventListener.new(cls._hear)
