@@ -110,25 +110,38 @@ class Screen:
         self._manage_windows()
 
     def _manage_windows(self):
-        """Once more where that is over: the window manager ends by itself now and then. Whether it
-        had to."""
+        """Once more where that is over: the window manager ends by itself now and then."""
         if self.window_manager and self.window_manager.poll() is None:
-            return False
+            return
         self.window_manager = keep_running(
             "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
             env=os.environ | {"DISPLAY": self.display})
         # Or it may forget a window that comes at that moment.
         await_that(lambda: self._xdotool("get_num_desktops"))
-        return True
 
     def _xdotool(self, *arguments):
         return subprocess.run(
             ["xdotool", *arguments], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
             env=os.environ | {"DISPLAY": self.display}).stdout
 
+    def _find_windows(self, title):
+        return self._xdotool("search", "--onlyvisible", "--name", f"^{title}$").split()
+
+    def _give_keyboard(self, window):
+        """As long as it is there. The window manager denies it to a window that comes while somebody
+        types, and forgets to give it now and then."""
+        def has_keyboard():
+            self._manage_windows()
+            if self._xdotool("getactivewindow").strip() == window:
+                return True
+            self._xdotool("windowactivate", window)
+            return self.size(window) is None
+
+        await_that(has_keyboard)
+
     def press(self, key):
-        if self._manage_windows():  # the new one has given no window the keyboard
-            self._xdotool("search", "--onlyvisible", "--name", INSTALLER, "windowactivate")
+        for window in self._find_windows(INSTALLER):
+            self._give_keyboard(window)
         self._xdotool("key", key)
 
     def close_window(self):
@@ -136,12 +149,10 @@ class Screen:
         self.press("alt+F4")
 
     def await_window(self, title=INSTALLER):
-        """Its number, once it is on the screen with that title. It gets the keyboard: a window that
-        comes while somebody types elsewhere is not given it by the window manager."""
+        """Its number, once it is on the screen with that title."""
         self._manage_windows()
-        search = "search", "--onlyvisible", "--name", f"^{title}$"
-        window = await_that(lambda: self._xdotool(*search).split())[0]
-        self._xdotool("windowactivate", window)
+        window = await_that(lambda: self._find_windows(title))[0]
+        self._give_keyboard(window)
         return window
 
     def size(self, window):

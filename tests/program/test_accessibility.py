@@ -4,6 +4,7 @@ from machine import SOURCE, await_that, mount_memory, write
 from screen_reader import CARET, FOCUS, VALUE, ScreenReaderTest
 
 FILE = "quillbarn.app/Contents/file"
+FAILURE = "quillbarn could not be installed"
 
 
 class Accessibility(ScreenReaderTest):
@@ -28,9 +29,10 @@ class Accessibility(ScreenReaderTest):
                 messages = "\n".join([*steps, "", error])
                 text = ("text", "Messages", messages)
                 button = ("push button", "Close", error)
+                self.screen.await_window(FAILURE)
                 self.await_event(FOCUS, True, button)
                 self.assertEqual(self.read_screen(), [
-                    ("dialog", "quillbarn could not be installed", ""), ("label", "quillbarn", ""),
+                    ("dialog", FAILURE, ""), ("label", "quillbarn", ""),
                     ("progress bar", "Progress", share), ("image", "Warning", ""), text, button])
 
                 self.screen.press("shift+Tab")
