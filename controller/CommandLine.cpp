@@ -22,9 +22,11 @@ std::string unquoted(const std::string& argument)
 const ViewController::ModeTexts& ViewController::textsOf(Mode mode)
 {
     static constexpr std::array<ModeTexts, 3> texts { {
-        { "install", "Installing quillbarn", "quillbarn could not be installed" },
-        { "uninstall", "Removing quillbarn", "quillbarn could not be removed" },
-        { "unmount", "Ejecting the disk image", "The disk image could not be ejected" },
+        { "install", "Installing quillbarn", "", "quillbarn could not be installed" },
+        { "uninstall", "Removing quillbarn", "", "quillbarn could not be removed" },
+        { "unmount", "Ejecting the disk image",
+            "Ejecting the disk image: waiting for the volume to be free",
+            "The disk image could not be ejected" },
     } };
     return texts.at(std::size_t(mode));
 }

@@ -47,6 +47,12 @@ void ViewController::setProgress(std::int64_t index, std::int64_t count)
     progressIndicator->setDoubleValue(double(index + 1) / double(count));
 }
 
+void ViewController::showWaiting(Mode mode)
+{
+    assert(NSThread::isMainThread());
+    view()->window()->setTitle(textsOf(mode).waitingTitle);
+}
+
 void ViewController::showResult()
 {
     assert(NSThread::isMainThread());

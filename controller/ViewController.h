@@ -47,11 +47,12 @@ public:
 
     enum class Mode { install, uninstall, unmount };
 
-    // What a mode is called in the log, and in the window's title while it runs and after it
-    // failed.
+    // What a mode is called in the log, and in the window's title while it runs, while it waits, if
+    // it ever does, and after it failed.
     struct ModeTexts {
         const char* name;
         const char* title;
+        const char* waitingTitle;
         const char* failureTitle;
     };
     static const ModeTexts& textsOf(Mode mode);
@@ -67,6 +68,7 @@ public:
     // The window. Paths and messages are bytes.
     void showMessage(const std::string& message);
     void setProgress(std::int64_t index, std::int64_t count);
+    void showWaiting(Mode mode);
     void showResult();
     void finish();
     void closeWindow();

@@ -22,6 +22,11 @@ void WindowReport::setProgress(std::int64_t index, std::int64_t count)
     DispatchQueue::main().sync([&] { m_controller->setProgress(index, count); });
 }
 
+void WindowReport::showWaiting()
+{
+    m_controller->showWaiting(m_mode);
+}
+
 void WindowReport::closeWindow()
 {
     DispatchQueue::main().async([controller = m_controller] { controller->closeWindow(); });

@@ -13,6 +13,7 @@ public:
 
     void showMessage(const std::string& message) override;
     void setProgress(std::int64_t index, std::int64_t count) override;
+    void showWaiting() override;
     void closeWindow() override;
     void finish() override;
     void showFailure(const NSError& error) override;

@@ -64,6 +64,7 @@ void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
             task.checkUnmountResult();
             return;
         }
+        task.m_report->showWaiting();
         NSThread::sleepForTimeInterval(pauseAfterFailure);
         task.tryEject();
     });

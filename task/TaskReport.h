@@ -18,6 +18,9 @@ public:
     // thread but the main thread.
     virtual void setProgress(std::int64_t index, std::int64_t count) = 0;
 
+    // Says that the task waits for the volume to be free, and goes on trying. On the main thread.
+    virtual void showWaiting() = 0;
+
     // The ends. They return at once, and what was shown before is in the window by then. Safe on
     // any thread.
     virtual void closeWindow() = 0;

@@ -15,3 +15,8 @@ std::string describe(const std::string& what, std::error_code reason);
 // Fill in `error`, where the caller wants one, and answer false.
 bool fail(NSError* error, const std::string& description);
 bool failBecause(NSError* error, const std::string& what, std::error_code reason);
+
+// The same for an item at `path` that is not to be read but changed: where the caller may not, it
+// says who may.
+bool failToChange(
+    NSError* error, const std::string& path, const std::string& what, std::error_code reason);

@@ -2,8 +2,16 @@
 
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <grp.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
+
+constexpr uid_t root = 0;
 
 // What a person can act on; the system's own words follow in brackets.
 const char* meaningOf(std::error_code reason)
@@ -50,6 +58,41 @@ const char* meaningOf(std::error_code reason)
     }
 }
 
+std::string nameOfUser(uid_t user)
+{
+    const passwd* const entry = getpwuid(user);
+    return quoted(entry ? entry->pw_name : std::to_string(user));
+}
+
+std::string nameOfGroup(gid_t group)
+{
+    const struct group* const entry = getgrgid(group);
+    return "the group " + quoted(entry ? entry->gr_name : std::to_string(group));
+}
+
+// A sentence; nothing where the caller may write in the folder, or it can't be looked at.
+std::string whoElseMayWrite(const std::string& folder)
+{
+    struct stat status = {};
+    if (faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0
+        || stat(folder.c_str(), &status) < 0)
+        return "";
+    std::string who = nameOfUser(root);
+    if (status.st_uid != root && (status.st_mode & S_IWUSR))
+        who += " and " + nameOfUser(status.st_uid);
+    if (status.st_mode & S_IWGRP)
+        who += " and " + nameOfGroup(status.st_gid);
+    return " Only " + who + " may write in " + quoted(folder)
+        + ": start the installer as one who may.";
+}
+
+// "/a" of "/a/b" as of "/a/b/".
+std::string folderWith(const std::string& path)
+{
+    const std::filesystem::path item(path);
+    return (item.has_filename() ? item : item.parent_path()).parent_path();
+}
+
 }
 
 std::string quoted(const std::string& path)
@@ -74,4 +117,13 @@ bool fail(NSError* error, const std::string& description)
 bool failBecause(NSError* error, const std::string& what, std::error_code reason)
 {
     return fail(error, describe(what, reason));
+}
+
+bool failToChange(
+    NSError* error, const std::string& path, const std::string& what, std::error_code reason)
+{
+    const bool isForbidden
+        = reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted;
+    return fail(
+        error, describe(what, reason) + (isForbidden ? whoElseMayWrite(folderWith(path)) : ""));
 }

@@ -38,7 +38,7 @@ private:
     }
     bool failToCopy(std::error_code reason) const
     {
-        return failBecause(m_error, failure(), reason);
+        return failToChange(m_error, m_toPath, failure(), reason);
     }
 
     const std::string& m_path;

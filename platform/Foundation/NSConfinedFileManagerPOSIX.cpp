@@ -85,7 +85,8 @@ bool NSConfinedFileManager::createFolder(NSError* error)
     if (!reason && !lock(error))
         return false;
     return m_folders
-        || failBecause(error, "The folder " + quoted(m_folder) + " couldn’t be created", reason);
+        || failToChange(
+            error, m_folder, "The folder " + quoted(m_folder) + " couldn’t be created", reason);
 }
 
 bool NSConfinedFileManager::createDirectoryAtPath(const std::string& path, NSError* error)
@@ -99,7 +100,7 @@ bool NSConfinedFileManager::createDirectoryAtPath(const std::string& path, NSErr
     if (reason == std::errc::file_exists)
         reason = requireFolder(place);
     return !reason
-        || failBecause(error, "The folder " + quoted(path) + " couldn’t be created", reason);
+        || failToChange(error, path, "The folder " + quoted(path) + " couldn’t be created", reason);
 }
 
 bool NSConfinedFileManager::copyItemAtPath(
@@ -112,7 +113,7 @@ bool NSConfinedFileManager::copyItemAtPath(
 bool NSConfinedFileManager::removeItemAtPath(const std::string& path, NSError* error)
 {
     const auto reason = m_folders ? removeTree(*m_folders, path) : std::error_code();
-    return !reason || failBecause(error, quoted(path) + " couldn’t be removed", reason);
+    return !reason || failToChange(error, path, quoted(path) + " couldn’t be removed", reason);
 }
 
 bool NSConfinedFileManager::synchronize(NSError* error)

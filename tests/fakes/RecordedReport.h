@@ -16,6 +16,7 @@ public:
 
     void showMessage(const std::string& message) override { add("“" + message + "”"); }
     void setProgress(std::int64_t index, std::int64_t count) override;
+    void showWaiting() override { add("waiting"); }
     void closeWindow() override { end("close window"); }
     void finish() override { end("finish"); }
     void showFailure(const NSError& error) override;

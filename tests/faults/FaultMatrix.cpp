@@ -54,6 +54,7 @@ public:
         sharedLogger().log(message, Logger::LogLevel::debug);
     }
     void setProgress(std::int64_t, std::int64_t) override { }
+    void showWaiting() override { }
     void closeWindow() override { }
     void finish() override { }
     void showFailure(const NSError&) override { }
@@ -195,7 +196,7 @@ enum Result { hasHeld = 1, wasMade = 2 }; // may be both
 // In a process of its own.
 int runAndJudge(const Scenario& scenario, Fault fault)
 {
-    alarm(5); // ends a run that hangs
+    alarm(30); // ends a run that hangs
     const Disk disk;
     runWithFault(fault, [&] {
         LoggedReport report;

@@ -124,14 +124,21 @@ class Failure(InstallerTest):
         self.assertEqual(read(BUNDLE), "a file")
 
     def test_no_permission_for_the_bundle_nor_for_the_log(self):
-        write(LOG, "")
-        os.chmod(LOG, 0o600)
-        os.chmod(BUNDLE, 0o700)
-        somebody = ["setpriv", "--reuid=65534", "--clear-groups", os.environ["INSTALLER"]]
-        installer = self.start("-uninstall", command=somebody, env=os.environ | {"XDG_RUNTIME_DIR": ""})
-        self.screen.await_window()
-        while installer.poll() is None:
-            self.screen.press("Return")
-        self.assertEqual(installer.returncode, 0)
-        self.assertEqual(read(LOG), "")
+        for arguments, log_mode in (["-install", SOURCE], 0o666), (["-uninstall"], 0o600):
+            write(LOG)
+            os.chmod(LOG, log_mode)
+            somebody = ["setpriv", "--reuid=65534", "--clear-groups", os.environ["INSTALLER"]]
+            installer = self.start(*arguments, command=somebody, env=os.environ | {"XDG_RUNTIME_DIR": ""})
+            self.screen.await_window()
+            while installer.poll() is None:
+                self.screen.press("Return")
+            self.assertEqual(installer.returncode, 0)
+            if log_mode == 0o600:
+                self.assertEqual(read(LOG), "")
+            else:
+                self.expect_end(
+                    read_log(), f"d remove {BUNDLE}/kept",
+                    f"“{BUNDLE}/kept” couldn’t be removed because you don’t have permission to access "
+                    f"it (Permission denied). Only “root” may write in “{BUNDLE}”: start the installer "
+                    "as one who may.")
         self.expect_installed({"kept": "installed"})

@@ -20,7 +20,8 @@ class Patience(DetachTest):
     def test_becomes_free(self):
         with open(self.image.bundle + "/quillbarn"):
             installer = self.start("-install2", self.image.bundle)
-            time.sleep(7)
+            self.screen.await_window("Ejecting the disk image: waiting for the volume to be free")
+            time.sleep(max(0, self.began + 7 - time.monotonic()))
             self.assertIsNone(installer.poll())
         self.expect_orderly_end(installer)
         self.expect_seconds(10)
@@ -32,7 +33,7 @@ class Patience(DetachTest):
         with open(self.image.bundle + "/quillbarn"):
             other = self.start("-install2", self.image.bundle, env=nowhere)
             await_that(lambda: os.path.exists(LOG) and len(read_log()) == 4)
-            window = self.screen.await_window("Ejecting the disk image")
+            window = self.screen.await_window("Ejecting the disk image: .*")
             self.assertAlmostEqual(self.screen.bar(window), 1, delta=0.01)  # and not a black window
             self.expect_orderly_end(self.start("-install2", self.image.bundle))
             self.expect_seconds(35)

@@ -212,7 +212,9 @@ namespace {
 
 Lines pausesAnd(int pauses, const std::string& outcome, const std::string& thread = "main")
 {
-    Lines lines(std::size_t(pauses), "main: pause 5");
+    Lines lines;
+    for (int i = 0; i < pauses; ++i)
+        lines.insert(lines.end(), { "main: waiting", "main: pause 5" });
     lines.insert(lines.end(), { thread + ": “" + outcome + "”", thread + ": finish" });
     return lines;
 }

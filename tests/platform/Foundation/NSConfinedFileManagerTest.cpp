@@ -65,6 +65,28 @@ TEST_F(NSConfinedFileManagerTest, createsFoldersWithThoseOnTheWayAndNamesWhatIsI
     EXPECT_EQ(readTree(folder / "a"), (Tree { { "b", "folder" }, { "b/c", "folder" } }));
 }
 
+TEST_F(NSConfinedFileManagerTest, saysWhoMayWriteWhereTheCallerMayNot)
+{
+    constexpr uid_t owner = 4711;
+    constexpr gid_t administrators = 27;
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    writeFile(folder / "a/file");
+    EXPECT_EQ(chown((folder / "a").c_str(), owner, administrators), 0);
+    for (const auto& [mode, who] : std::map<mode_t, std::string> { { 0555, "“root”" },
+             { 0755, "“root” and “4711”" }, { 0775, "“root” and “4711” and the group “sudo”" } }) {
+        EXPECT_EQ(chmod((folder / "a").c_str(), mode), 0);
+        EXPECT_EQ(seteuid(owner + 1), 0);
+        const std::vector<std::string> failures { create("a/b"), copy("a/file", "a/b"),
+            remove("a/file") };
+        EXPECT_EQ(seteuid(0), 0);
+        for (const std::string& failure : failures)
+            EXPECT_TRUE(failure.ends_with(" because you don’t have permission to access it "
+                                          "(Permission denied). Only "
+                + who + " may write in “" + folder / "a”: start the installer as one who may."))
+                << failure;
+    }
+}
+
 TEST_F(NSConfinedFileManagerTest, removesALinkNotItsTargetAndAFolderWithAllItHolds)
 {
     writeFile(folder / "kept/file");
