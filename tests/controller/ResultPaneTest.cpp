@@ -94,6 +94,7 @@ TEST_F(Pane, aViewThatWasScrolledAwayStaysThere)
 
 TEST_F(Pane, theWindowShrinksAndGrowsWithIt)
 {
+    runMainLoopUntil([] { return false; }, 100); // for the window to follow the pane's last step
     const auto windowHeight = [&] { return controller.view()->bounds().size.height; };
     const CGFloat whole = windowHeight();
     controller.resultPainViewHeightConstraint->setConstant(0);

@@ -110,14 +110,14 @@ class Screen:
         self._manage_windows()
 
     def _manage_windows(self):
-        """Once more where that is over: the window manager ends by itself now and then."""
-        if self.window_manager and self.window_manager.poll() is None:
-            return
-        self.window_manager = keep_running(
-            "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-            env=os.environ | {"DISPLAY": self.display})
-        # Or it may forget a window that comes at that moment.
-        await_that(lambda: self._xdotool("get_num_desktops"))
+        """Once more where that is over: the window manager ends by itself now and then, and at times
+        finds no display in the moment in which the server says that it is there."""
+        while not self.window_manager or self.window_manager.poll() is not None:
+            self.window_manager = keep_running(
+                "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                env=os.environ | {"DISPLAY": self.display})
+            # Or it may forget a window that comes at that moment.
+            await_that(lambda: self._xdotool("get_num_desktops") or self.window_manager.poll() is not None)
 
     def _xdotool(self, *arguments):
         return subprocess.run(
