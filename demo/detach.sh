@@ -28,26 +28,41 @@ service_knows_volume() { # device
 
 demo_detach() {
     local image="$PWD/build/demo/image" volume="/Volumes/quillbarn installer" device
+    become_root
     prepare_demo
     need "${for_detaching[@]}"
     ensure_display
     ensure_disk_service
+    rm -f "$image"
     mksquashfs build/demo/quillbarn.app "$image" -keep-as-directory -noappend -quiet -no-progress
-    device="$("${as_root[@]}" losetup --find --show "$image")"
+    note_new /Volumes "$volume"
     "${as_root[@]}" mkdir -p "$volume"
+    device="$("${as_root[@]}" losetup --find --show "$image")"
+    at_end "detach_by_hand '$volume' '$device' '$image'"
     "${as_root[@]}" mount -t squashfs "$device" "$volume"
     await service_knows_volume "$device"
 
     echo "Detaching, which for two seconds can't be done:"
     losetup --list "$device"
     { sleep 2; } <"$volume/quillbarn.app/Contents/MacOS/quillbarn" &
-    show detach 0.7 -install2 "$volume/quillbarn.app"
-    ! mountpoint -q "$volume" || "${as_root[@]}" umount "$volume"
+    # As root, who has mounted it: anybody else the disk service asks for a password first.
+    show detach 0.7 "${as_root[@]}" "$installer" -install2 "$volume/quillbarn.app"
     show_log
-    if losetup "$device" 2>/dev/null | grep -qF "$image"; then
-        "${as_root[@]}" losetup --detach "$device"
+    if mountpoint -q "$volume" || is_attached "$device" "$image"; then
         echo "It was not detached." >&2
         return 1
     fi
     echo "$volume is unmounted, and $device free."
+    echo
+    echo "Try next:"
+    echo "  ./dev demo clean"
+}
+
+is_attached() { # device image
+    losetup "$1" 2>/dev/null | grep -qF "$2"
+}
+
+detach_by_hand() { # volume device image
+    ! mountpoint -q "$1" || "${as_root[@]}" umount "$1"
+    ! is_attached "$2" "$3" || "${as_root[@]}" losetup --detach "$2"
 }

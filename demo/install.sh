@@ -1,5 +1,9 @@
 # Installs a sample bundle for real.
 
+bundle=/Applications/quillbarn.app
+log=/tmp/quillbarninstaller.log
+made=build/demo/made # what the demos have brought to the machine, a path a line
+
 # draw_bundle FOLDER: a few hundred entries of all kinds that a bundle can hold
 draw_bundle() {
     local contents="$1/quillbarn.app/Contents" number
@@ -25,41 +29,88 @@ prepare_demo() {
     build release
     mkdir -p build/demo
     draw_bundle build/demo
-    [ -w /Applications ] || "${as_root[@]}" install -d -o "$(id -u)" -g "$(id -g)" /Applications
+    note_new "$log"
+    [ -e "$log" ] || : >"$log" # the person's own, also where root is the first to write to it
+}
+
+note_new() { # path...
+    local path
+    for path; do
+        [ -e "$path" ] || echo "$path" >>"$made"
+    done
+}
+
+prepare_applications() {
+    if [ -e "$bundle" ] && ! grep -qxF "$bundle" "$made" 2>/dev/null; then
+        echo "There is a $bundle that is not the demo's. It stays as it is." >&2
+        return 1
+    fi
+    note_new /Applications "$bundle"
+    [ -e /Applications ] \
+        || "${as_root[@]}" install -d -o "$(id -u)" -g "$(id -g)" /Applications
 }
 
 demo_install() {
     prepare_demo
+    prepare_applications
     ensure_display
 
-    echo "Installing $(find build/demo/quillbarn.app | wc -l) entries into /Applications/quillbarn.app"
     # A full bar stands for a second; a pane takes half of one to open.
-    show install 0.5 -install "$PWD/build/demo/"
-    [ "$screen_in_memory" = no ] || show failure 0.7 -install "$PWD/build/demo"
+    if [ "$screen_in_memory" = yes ]; then
+        echo "Installing from a folder that is not there, to see how that is told"
+        show failure 0.7 "$installer" -install /nowhere/
+    fi
+    echo "Installing $(find build/demo/quillbarn.app | wc -l) entries into $bundle"
+    show install 0.5 "$installer" -install "$PWD/build/demo/"
     show_log
-    cat <<END
+    [ -e "$bundle/Contents/MacOS/quillbarn" ] || return 1
+    echo "Installed: $bundle, with $(find "$bundle" | wc -l) entries."
+    echo
+    echo "Try next:"
+    suggest
+}
 
-Try next:
-  ./dev demo detach
-  build/release/quillbarninstaller -uninstall
-  build/release/quillbarninstaller -install /nowhere/    (fails, says why and waits)
-END
+# What works on the display of this run.
+suggest() {
+    if [ "$screen_in_memory" = yes ]; then
+        echo "  xvfb-run $installer -uninstall"
+    else
+        echo "  $installer -uninstall"
+        echo "  $installer -install /nowhere/    (fails, says why and waits)"
+    fi
+    echo "  ./dev demo detach"
+    echo "  ./dev demo clean"
+}
+
+# Only what the demos have made; folders only when they are empty.
+demo_clean() {
+    local path
+    [ -e "$made" ] || { echo "No demo has left anything." && return; }
+    tac "$made" | while read -r path; do
+        case $path in
+        "$bundle" | "$log") "${as_root[@]}" rm -rf "$path" ;;
+        *) "${as_root[@]}" rmdir "$path" || continue ;;
+        esac
+        echo "Removed: $path"
+    done
+    rm -rf build/demo
 }
 
 # The pictures of the README: a run that stands still half-way, and one that has failed after more
 # lines than the pane holds.
 take_shots() {
     prepare_demo
+    prepare_applications
     start_screen 1024x768
-    local installer
-    build/release/quillbarninstaller -install "$PWD/build/demo/" &
-    installer=$!
+    local pid
+    "$installer" -install "$PWD/build/demo/" &
+    pid=$!
     await window_is_shown 'Installing quillbarn'
-    await grep -q "$installer d  copy .*Lesson 20/" /tmp/quillbarninstaller.log
-    kill -STOP "$installer"
+    await grep -q "$pid d  copy .*Lesson 20/" "$log"
+    kill -STOP "$pid"
     picture docs/running.png
-    kill -CONT "$installer"
-    wait "$installer"
+    kill -CONT "$pid"
+    wait "$pid"
 
     local room=build/demo/full
     mkdir -p "$room"
@@ -71,6 +122,5 @@ take_shots() {
     await window_is_shown 'could not be installed'
     sleep 1
     picture docs/failure.png
-    xdotool key Return
-    wait $!
+    press_return_until_over $!
 }

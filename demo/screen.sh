@@ -1,6 +1,8 @@
 # A display for the demos: the person's own, or one in memory, of which pictures are saved.
 
 screen_in_memory=no
+installer=build/release/quillbarninstaller
+any_title='quillbarn|disk image'
 
 # start_screen WIDTHxHEIGHT: with a window manager
 start_screen() {
@@ -16,7 +18,8 @@ start_screen() {
     rm "$pipe"
     export DISPLAY=":$number" XDG_RUNTIME_DIR="$PWD/build/demo/runtime"
     install -d -m 0700 "$XDG_RUNTIME_DIR"
-    openbox >/dev/null 2>&1 &
+    # It ends by itself now and then, and at times finds no display at first.
+    until openbox; do sleep 0.1; done >/dev/null 2>&1 &
     at_end "kill $!"
     await window_manager_is_there # or a window that comes at that moment may be forgotten
 }
@@ -39,23 +42,31 @@ picture() {
     echo "Picture: $1"
 }
 
-# show NAME SECONDS ARGUMENT...: runs the installer; where the display is in memory, saves a picture
+# show NAME SECONDS COMMAND...: runs the installer; where the display is in memory, saves a picture
 # after so many seconds and presses the button
 show() {
-    local name="$1" seconds="$2" installer
+    local name="$1" seconds="$2" pid
     shift 2
-    build/release/quillbarninstaller "$@" &
-    installer=$!
+    "$@" &
+    pid=$!
     if [ "$screen_in_memory" = yes ]; then
-        await window_is_shown 'quillbarn|disk image'
+        await window_is_shown "$any_title"
         sleep "$seconds"
         picture "build/demo/$name.png"
-        xdotool key Return
+        press_return_until_over "$pid"
     fi
-    wait "$installer"
+    wait "$pid"
+}
+
+press_return_until_over() { # process
+    while [ -e "/proc/$1" ]; do
+        xdotool search --onlyvisible --name "$any_title" windowactivate key Return || true
+        sleep 0.1
+    done 2>/dev/null
 }
 
 show_log() {
-    printf '\nThe end of the log, /tmp/quillbarninstaller.log:\n'
-    tail -n 5 /tmp/quillbarninstaller.log
+    printf '\nThe end of the log, %s:\n' "$log"
+    tail -n 5 "$log"
+    [ -w "$log" ] || echo "It belongs to someone else, and has got no lines of this run."
 }
