@@ -11,9 +11,8 @@ public:
 protected:
     void showEvent(QShowEvent* event) override
     {
-        setPixmap(style()
-                      ->standardIcon(QStyle::SP_MessageBoxWarning)
-                      .pixmap(style()->pixelMetric(QStyle::PM_LargeIconSize)));
+        const QIcon sign = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        setPixmap(sign.pixmap(style()->pixelMetric(QStyle::PM_LargeIconSize)));
         QLabel::showEvent(event);
     }
 };

@@ -1,6 +1,6 @@
 #include <Foundation/NSRunLoop.h>
 
-class CFRunLoop { };
+class CFRunLoop {};
 
 const NSRunLoop& NSRunLoop::mainRunLoop()
 {

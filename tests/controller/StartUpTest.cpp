@@ -147,7 +147,7 @@ struct Outlet {
     std::function<void(ViewController&)> disconnect;
 };
 
-class MissingOutlet : public testing::TestWithParam<Outlet> { };
+class MissingOutlet : public testing::TestWithParam<Outlet> {};
 
 }
 

@@ -11,7 +11,7 @@ template <class View> class ViewFake : public View {
 public:
     NSRect bounds() const override { return { {}, { 77, 0 } }; }
     NSWindow* window() const override { return nullptr; }
-    void setAccessibilityHelp(const std::string&) override { }
+    void setAccessibilityHelp(const std::string&) override {}
 };
 
 class TextFieldFake : public ViewFake<NSTextField> {

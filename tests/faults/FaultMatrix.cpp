@@ -53,11 +53,11 @@ public:
     {
         sharedLogger().log(message, Logger::LogLevel::debug);
     }
-    void setProgress(std::int64_t, std::int64_t) override { }
-    void showWaiting() override { }
-    void closeWindow() override { }
-    void finish() override { }
-    void showFailure(const NSError&) override { }
+    void setProgress(std::int64_t, std::int64_t) override {}
+    void showWaiting() override {}
+    void closeWindow() override {}
+    void finish() override {}
+    void showFailure(const NSError&) override {}
 };
 
 void drawSource()
@@ -95,7 +95,7 @@ using Entries = std::map<std::string, Entry>;
 Entry describe(const fs::directory_entry& found)
 {
     const std::string path = found.path();
-    struct stat status { };
+    struct stat status = {};
     std::array<char, 9> value {};
     lstat(path.c_str(), &status);
     lgetxattr(path.c_str(), attributeName, value.data(), value.size() - 1);

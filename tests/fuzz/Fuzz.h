@@ -3,6 +3,7 @@
 #include "support/Tree.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <fuzzer/FuzzedDataProvider.h>
 
@@ -20,10 +21,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 // Any bytes, with more of what is unlike other text.
 inline std::string drawText(FuzzedDataProvider& draw)
 {
+    static constexpr std::array<const char*, 9> odd { "'", "/", "e", "\u0301", "\u00E9", "\uFEFF",
+        "\uFFFD", "\r", "\n" };
     std::string text;
     while (draw.ConsumeBool())
-        text += draw.ConsumeBool() ? draw.PickValueInArray(
-                    { "'", "/", "e", "\u0301", "\u00E9", "\uFEFF", "\uFFFD", "\r", "\n" })
-                                   : draw.ConsumeRandomLengthString(8);
+        text += draw.ConsumeBool() ? draw.PickValueInArray(odd) : draw.ConsumeRandomLengthString(8);
     return text;
 }

@@ -168,7 +168,7 @@ struct UnmountCase {
     enum class Path { goes, stays, isOnNoVolume, isTooLongToBeLookedAt } path = Path::goes;
 };
 
-class Unmount : public Tasks, public testing::WithParamInterface<UnmountCase> { };
+class Unmount : public Tasks, public testing::WithParamInterface<UnmountCase> {};
 
 }
 

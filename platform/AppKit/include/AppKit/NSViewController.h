@@ -16,7 +16,7 @@ public:
     NSViewController& operator=(const NSViewController&) = delete;
 
     // Sent once, when the view is there and the outlets are connected.
-    virtual void viewDidLoad() { }
+    virtual void viewDidLoad() {}
 
     // The view that the window shows; nullptr when it has gone, or hasn't come.
     std::shared_ptr<NSView> view() const { return m_view.lock(); }
