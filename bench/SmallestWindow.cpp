@@ -8,7 +8,7 @@
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QWidget empty;
     QLabel line(argc > 1 ? argv[1] : "");
     (argc > 1 ? line : empty).show();

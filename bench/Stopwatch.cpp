@@ -39,7 +39,7 @@ void bind(const std::string& from, const std::string& to)
 [[noreturn]] void execute(char* command[])
 {
     alarm(longestRun);
-    dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
+    dup2(require(open("/dev/null", O_WRONLY), "/dev/null"), STDOUT_FILENO);
     execvp(command[0], command);
     perror(command[0]);
     _exit(EXIT_FAILURE);

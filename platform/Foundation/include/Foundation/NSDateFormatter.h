@@ -18,6 +18,6 @@ public:
 
 private:
     std::string m_format;
-    std::chrono::sys_seconds m_second {};
+    std::chrono::sys_seconds m_second;
     std::string m_text;
 };
