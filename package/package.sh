@@ -1,0 +1,29 @@
+# Builds the Debian package, which is left in build/package/, and checks it.
+
+make_package() {
+    need "${for_building[@]}" "${for_showing[@]}" "${for_packaging[@]}"
+    local place=build/package
+    rm -rf "$place"
+    mkdir -p "$place/source"
+    git ls-files -z | xargs -0 cp -P --parents -t "$place/source"
+    (cd "$place/source" && dpkg-buildpackage -us -uc -b)
+    check_package "$place/source/debian/quillbarninstaller/usr/share"
+    lintian --fail-on error,warning "$place"/*.changes
+    test_package "$PWD/$place"/quillbarninstaller_*.deb
+    ls -l "$place"/*.deb
+}
+
+check_package() { # its share folder
+    desktop-file-validate "$1"/applications/*.desktop
+    appstreamcli validate --no-net "$1"/metainfo/*.xml
+    local complaints
+    complaints="$(man --warnings -E UTF-8 -l -Tutf8 -Z "$1"/man/man1/*.1.gz 2>&1 >/dev/null)"
+    [ -z "$complaints" ] || { echo "$complaints" >&2 && return 1; }
+}
+
+# A machine of its own takes root here, so that it has a user besides.
+test_package() { # package
+    "${as_root[@]}" env CI=1 tests/support/private-machine "$PWD" -- \
+        env PATH=/usr/sbin:/usr/bin:/sbin:/bin PACKAGE="$1" INSTALLER=quillbarninstaller \
+        PYTHONPATH="$PWD/tests/program:$PWD/package" python3 -B -m unittest -v test_package
+}
