@@ -4,6 +4,7 @@
 
 #include <AppKit/NSAnimationContext.h>
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QVariantAnimation>
 
@@ -63,6 +64,14 @@ void HeightConstraintQt::animateConstant(CGFloat constant)
     m_animation.start();
 }
 
+// The height into which a window can grow, whose other parts take up so much. Wayland neither tells
+// where it is nor moves it; it grows downwards from where it is likely to be, the middle.
+int room(const QRect& screen, int rest)
+{
+    const bool canMove = !QGuiApplication::platformName().startsWith("wayland");
+    return std::max(0, (screen.height() - rest) / (canMove ? 1 : 2));
+}
+
 // Notes the constant, and makes room for it on the screen: the height there is, and a place for the
 // window from which it doesn't grow over the screen's lower edge.
 CGFloat HeightConstraintQt::prepare(CGFloat constant)
@@ -73,7 +82,7 @@ CGFloat HeightConstraintQt::prepare(CGFloat constant)
     const QRect frame = window.frameGeometry();
     const int old = m_widget.isHidden() ? 0 : m_widget.height();
     const int rest = frame.height() - old;
-    const double height = std::min(constant, double(std::max(0, screen.height() - rest)));
+    const double height = std::min(constant, double(room(screen, rest)));
     const int overlap = frame.top() + rest + int(height) - 1 - screen.bottom();
     if (window.isVisible() && overlap > 0)
         window.move(frame.left(), std::max(screen.top(), frame.top() - overlap));
