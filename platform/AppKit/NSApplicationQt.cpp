@@ -50,7 +50,7 @@ void keepFromLaunchingABus()
     setenv("DBUS_SESSION_BUS_ADDRESS", "unix:runtime=yes", keep);
 }
 
-std::string missingDisplay()
+std::string missingDisplay(bool hasWaylandPlugin)
 {
     const auto valueOf = [](const char* name) {
         const char* const value = std::getenv(name);
@@ -62,19 +62,22 @@ std::string missingDisplay()
     if (!plugin.empty())
         return "by the plugin “" + plugin + "”: install it, or unset QT_QPA_PLATFORM.";
     if (!wayland.empty())
-        return "on the Wayland display “" + wayland + "”: install the package qt6-wayland.";
+        return "on the Wayland display “" + wayland + "”: "
+            + (hasWaylandPlugin ? "check that WAYLAND_DISPLAY names a running compositor."
+                                : "install the package qt6-wayland.");
     if (!display.empty())
         return "on the display “" + display + "”: check that DISPLAY names a running X server.";
     return "without a display: start it in a desktop session, or set DISPLAY.";
 }
 
-// Where Qt can't have a display it ends the program with advice on plugins. Better to say what is
-// missing, and to drop the warnings that lead up to it.
-void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString&)
+// Where Qt can't have a display it ends the program with advice on plugins, and names those there
+// are. Better to say what is missing, and to drop the warnings that lead up to it.
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString& advice)
 {
     if (type != QtFatalMsg)
         return;
-    std::fputs(("The window can’t be opened " + missingDisplay() + "\n").c_str(), stderr);
+    const std::string missing = missingDisplay(advice.contains("wayland"));
+    std::fputs(("The window can’t be opened " + missing + "\n").c_str(), stderr);
     _exit(EXIT_FAILURE);
 }
 
