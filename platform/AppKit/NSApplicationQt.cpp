@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <mutex>
 #include <unistd.h>
 
 namespace {
@@ -115,9 +116,24 @@ void NSApplication::activateIgnoringOtherApps()
     m_isToBeActive = true;
 }
 
-// The toolkit has no other way to say it: it calls exit(), which nothing else in the program does.
+// The toolkit has no other way to say it. Where it loses an X server it calls exit(), which nothing
+// else in the program does; where it loses a compositor it warns, on any thread, and calls _exit().
+void NSApplication::watchDisplay()
+{
+    std::atexit(endWithoutDisplay);
+    static QtMessageHandler usual = nullptr;
+    usual = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            usual(type, context, message);
+            if (message.startsWith("The Wayland connection"))
+                endWithoutDisplay();
+        });
+}
+
 void NSApplication::endWithoutDisplay()
 {
+    static std::mutex once;
+    once.lock(); // for good
     NSApplicationDelegate& delegate = *sharedApplication().m_delegate;
     delegate.applicationDidLoseDisplay();
     delegate.applicationWillTerminate();
@@ -141,7 +157,7 @@ int NSApplication::run()
             terminate();
     });
     m_delegate->applicationDidFinishLaunching();
-    std::atexit(endWithoutDisplay);
+    watchDisplay();
     window->makeKeyAndOrderFront();
     QWidget& widget = *QApplication::topLevelWidgets().first();
     awaitFirstFrame(widget);

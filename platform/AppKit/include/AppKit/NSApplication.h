@@ -5,7 +5,7 @@
 class NSApplication;
 class NSWindow;
 
-// Hears of the stages of the program, on the main thread.
+// Hears of the stages of the program, on the main thread, save of the end without a display.
 class NSApplicationDelegate {
 public:
     virtual ~NSApplicationDelegate() = default;
@@ -13,7 +13,8 @@ public:
     virtual void applicationDidFinishLaunching() = 0;
 
     // Unlike with AppKit, the window's display may go away in the middle of a run, whose end that
-    // is: applicationWillTerminate() follows, and the process ends with 1.
+    // is: applicationWillTerminate() follows, on the same thread, whichever notices it, and the
+    // process ends with 1.
     virtual void applicationDidLoseDisplay() = 0;
 
     // The process ends right after this.
@@ -40,6 +41,7 @@ private:
     friend int NSApplicationMain(int argc, const char* const argv[]);
 
     int run();
+    static void watchDisplay();
     static void endWithoutDisplay();
 
     std::shared_ptr<NSApplicationDelegate> m_delegate;
