@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QVariant>
 
 #include <algorithm>
@@ -15,7 +16,8 @@ constexpr const char* windowProperty = "NSWindow";
 
 }
 
-// What a person does to the window itself goes to its button.
+// What a person does to the window itself goes to its button; not at once, as the toolkit takes no
+// call to close a window while it asks whether it may close it.
 class WindowQt::DefaultButton : public QObject {
 public:
     DefaultButton(QObject* window, const std::shared_ptr<ButtonQt>& button)
@@ -36,17 +38,22 @@ public:
     {
         const bool isEscape = event->type() == QEvent::KeyPress
             && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-        const bool isCloseControl = event->type() == QEvent::Close && event->spontaneous();
+        const bool isCloseControl = event->type() == QEvent::Close;
         if (!isEscape && !isCloseControl)
             return QObject::eventFilter(watched, event);
         event->ignore();
-        const auto button = m_button.lock();
-        if (button && (m_hasKeys || isCloseControl))
-            button->performClick();
+        if (m_hasKeys || isCloseControl)
+            QTimer::singleShot(0, this, [this] { click(); });
         return true;
     }
 
 private:
+    void click()
+    {
+        if (const auto button = m_button.lock())
+            button->performClick();
+    }
+
     const std::weak_ptr<ButtonQt> m_button;
     bool m_hasKeys = false;
 };
@@ -94,7 +101,9 @@ void WindowQt::makeKeyAndOrderFront()
     m_dialog->show();
 }
 
+// On Wayland the close control's event looks like this call's.
 void WindowQt::close()
 {
+    m_dialog->removeEventFilter(m_defaultButton);
     m_dialog->close();
 }

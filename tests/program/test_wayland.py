@@ -21,12 +21,12 @@ class Compositor:
     """One without a screen."""
 
     def __init__(self, *command, **environment):
-        folder = tempfile.mkdtemp()
-        self.environment = os.environ | environment | {"XDG_RUNTIME_DIR": folder}
+        self.folder = tempfile.mkdtemp()
+        self.environment = os.environ | environment | {"XDG_RUNTIME_DIR": self.folder}
         self.environment.pop("DISPLAY", None)
         self.process = keep_running(*command, env=self.environment, stdout=subprocess.DEVNULL,
                                     stderr=subprocess.DEVNULL)
-        display = await_that(lambda: glob(folder + "/wayland-[0-9]"))[0]
+        display = await_that(lambda: glob(self.folder + "/wayland-[0-9]"))[0]
         with socket.socket(socket.AF_UNIX) as client:
             await_that(lambda: client.connect_ex(display) == 0)
         self.environment["WAYLAND_DISPLAY"] = os.path.basename(display)
@@ -50,6 +50,11 @@ class Sway(Compositor):
 
     def press(self, key):
         subprocess.run(["wtype", "-k", key], env=self.environment, check=True)
+
+    def close_window(self):
+        """What the close control in the window's frame does, if there is a window."""
+        subprocess.run(["swaymsg", "--quiet", "--socket", *glob(self.folder + "/sway-ipc*"), "kill"],
+                       stderr=subprocess.DEVNULL, check=False)
 
     def rows(self):
         """How many points of each row of the screen are white, and how many are blue."""
@@ -75,6 +80,11 @@ class Sway(Compositor):
         await_that(lambda: self.shows_failure(2 / 3))
 
 
+def write_files():
+    for number in range(2000):
+        write(f"{SOURCE}quillbarn.app/{number}", "x" * 5000)
+
+
 class Wayland(InstallerTest):
     @classmethod
     def setUpClass(cls):
@@ -93,9 +103,21 @@ class Wayland(InstallerTest):
                     self.start("-install", SOURCE, env=self.screen.environment))
                 self.screen.end()
 
+    def test_the_close_control_works_once_the_window_waits(self):
+        write_files()
+        sway = Sway(1)
+        for arguments, last in ((["-install", SOURCE], "d completed"),
+                                (["-install"], "d invalid options")):
+            with self.subTest(arguments=arguments):
+                remove(LOG)
+                installer = self.start(*arguments, env=sway.environment)
+                while installer.poll() is None:
+                    sway.close_window()
+                self.expect_orderly_end(installer)
+                self.assertEqual(read_log()[-2], last)
+
     def test_a_compositor_that_dies_is_told_in_the_log(self):
-        for number in range(3000):
-            write(f"{SOURCE}quillbarn.app/{number}", "x" * 5000)
+        write_files()
         weston = Compositor("weston", "--backend=headless-backend.so", "--no-config")
         self.run_installer("-install", SOURCE, env=weston.environment)
         remove(LOG)
