@@ -1,5 +1,5 @@
-"""The package, installed and removed by the system's own dpkg on a private machine. What that changes
-of the system lies in memory, and goes with each test."""
+"""The package, installed and removed by the system's own dpkg on a private machine. What that
+changes of the system lies in memory, and goes with each test."""
 
 import os
 import pathlib
