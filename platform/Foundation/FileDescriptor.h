@@ -13,7 +13,7 @@ public:
         : m_number(number)
     {
     }
-    ~FileDescriptor() { close(); }
+    ~FileDescriptor() { [[maybe_unused]] const auto lost = close(); }
     FileDescriptor(FileDescriptor&& other) noexcept;
     FileDescriptor& operator=(FileDescriptor&& other) noexcept;
 

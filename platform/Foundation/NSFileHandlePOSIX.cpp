@@ -11,7 +11,8 @@ namespace {
 bool isFileWithOneName(const FileDescriptor& file)
 {
     struct stat status = {};
-    return fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1;
+    return file.isOpen() && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode)
+        && status.st_nlink == 1;
 }
 
 }
@@ -50,5 +51,5 @@ void NSFileHandle::synchronizeFile()
 
 void NSFileHandle::closeFile()
 {
-    m_file->close();
+    [[maybe_unused]] const auto lost = m_file->close();
 }

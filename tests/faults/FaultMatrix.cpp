@@ -262,10 +262,12 @@ try {
     Count all;
     for (const FileCall& call : fileCalls()) {
         const auto [tried, held] = tryCall(call);
-        std::cout << call.name << ": " << tried << " tried, " << held << " held" << std::endl;
+        std::cout << call.name << ": " << tried << " tried, " << held << " held" << '\n'
+                  << std::flush;
         all = { all.tried + tried, all.held + held };
     }
-    std::cout << "fault matrix: " << all.tried << " tried, " << all.held << " held" << std::endl;
+    std::cout << "fault matrix: " << all.tried << " tried, " << all.held << " held" << '\n'
+              << std::flush;
     return all.tried > 0 && all.held == all.tried ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
