@@ -111,8 +111,7 @@ class Wayland(InstallerTest):
             with self.subTest(arguments=arguments):
                 remove(LOG)
                 installer = self.start(*arguments, env=sway.environment)
-                while installer.poll() is None:
-                    sway.close_window()
+                await_that(lambda: installer.poll() is not None or sway.close_window())
                 self.expect_orderly_end(installer)
                 self.assertEqual(read_log()[-2], last)
 
