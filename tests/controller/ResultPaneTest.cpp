@@ -148,7 +148,7 @@ TEST_F(Pane, aReportIsInTheWindowWhenItReturns)
 TEST(PaneAlone, aReportOfTheEndClosesTheWindow)
 {
     setArguments({ "me" });
-    for (void (TaskReport::*const end)() : { &TaskReport::finish, &TaskReport::closeWindow }) {
+    for (const auto end : { &TaskReport::finish, &TaskReport::closeWindow }) {
         const TestWindow window;
         WindowReport report(window.controller, ViewController::Mode::install);
         (report.*end)();
