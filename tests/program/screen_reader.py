@@ -31,7 +31,8 @@ def describe(part):
         content = Atspi.Text.get_text(part, 0, Atspi.Text.get_character_count(part))
     else:
         content = part.get_description()
-    return part.get_role_name(), part.get_name(), content
+    role = part.get_role_name().removeprefix("push ")  # which newer ones leave out of "push button"
+    return role, part.get_name(), content
 
 
 def read(whole):

@@ -28,7 +28,7 @@ class Accessibility(ScreenReaderTest):
                 installer = self.start("-install", source)
                 messages = "\n".join([*steps, "", error])
                 text = ("text", "Messages", messages)
-                button = ("push button", "Close", error)
+                button = ("button", "Close", error)
                 self.screen.await_window(FAILURE)
                 self.await_event(FOCUS, True, button)
                 self.assertEqual(self.read_screen(), [
