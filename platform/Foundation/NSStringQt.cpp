@@ -47,9 +47,10 @@ std::optional<std::size_t> NSString::rangeOfString(std::string_view text, std::s
     const QString decodedSearched = decodedText(searched);
     const std::vector<QStringView> characters = charactersOf(decoded);
     const std::vector<QStringView> sought = charactersOf(decodedSearched);
-    const auto found = std::ranges::search(characters, sought, areEquivalent);
-    if (found.empty())
+    const auto found = std::search(
+        characters.begin(), characters.end(), sought.begin(), sought.end(), areEquivalent);
+    if (sought.empty() || found == characters.end())
         return std::nullopt;
-    const QStringView before(decoded.constData(), found.front().data());
+    const QStringView before(decoded.constData(), found->data());
     return encodedSize(before);
 }
