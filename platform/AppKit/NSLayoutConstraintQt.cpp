@@ -5,6 +5,7 @@
 #include <AppKit/NSAnimationContext.h>
 
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <QVariantAnimation>
 
@@ -57,7 +58,7 @@ void HeightConstraintQt::animateConstant(CGFloat constant)
     QObject::connect(
         &m_animation, &QVariantAnimation::finished, &m_animation,
         [this, handler = context.completionHandler()] {
-            release();
+            setConstant(m_constant); // the desktop may have put the window elsewhere meanwhile
             handler();
         },
         Qt::SingleShotConnection);
@@ -78,6 +79,7 @@ CGFloat HeightConstraintQt::prepare(CGFloat constant)
 {
     m_constant = constant;
     QWidget& window = *m_widget.window();
+    window.layout()->activate(); // or the window has yet to follow the part's last height
     const QRect screen = window.screen()->availableGeometry();
     const QRect frame = window.frameGeometry();
     const int old = m_widget.isHidden() ? 0 : m_widget.height();

@@ -54,6 +54,6 @@ class Window(InstallerTest):
             "-install", "/nowhere/",
             env=os.environ | {"DISPLAY": small.display, "QT_SCALE_FACTOR": str(scale)})
         window = small.await_window(FAILURE)
-        while installer.poll() is None:
-            small.click(window, scale * (MARGIN + 20), scale * (MARGIN + 10))
+        await_that(lambda: small.click(window, scale * (MARGIN + 20), scale * (MARGIN + 10))
+                   or installer.poll() is not None, seconds=60)
         self.expect_orderly_end(installer)
