@@ -39,6 +39,7 @@ class Package(InstallerTest):
             os.chmod(upper, 0o755)
             mount(self, folder, "-t", "overlay",
                   "-o", f"lowerdir={folder},upperdir={upper},workdir={work}", "none")
+        dpkg("--purge", NAME)  # which may have been tried out
         remove(FOLDER)
         super().setUp()
 
