@@ -7,6 +7,7 @@
 
 #include "HandOver.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -26,16 +27,12 @@ namespace {
 const std::string applications = "/Applications/";
 const std::string bundle = "quillbarn.app";
 
-[[noreturn]] void fail(const std::string& what)
-{
-    perror(what.c_str());
-    _exit(EXIT_FAILURE);
-}
-
 void require(bool success, const std::string& what)
 {
-    if (!success)
-        fail(what);
+    if (!success) {
+        perror(what.c_str());
+        _exit(EXIT_FAILURE);
+    }
 }
 
 struct Entry {
@@ -48,15 +45,13 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
     struct stat status = {};
     require(stat(folder.c_str(), &status) == 0, folder);
     DIR* const directory = opendir(folder.c_str());
-    if (!directory)
-        fail(folder);
+    require(directory, folder);
     std::vector<std::string> names;
     while (const dirent* item = readdir(directory))
-        names.emplace_back(item->d_name);
+        if (const std::string name = item->d_name; name != "." && name != "..")
+            names.push_back(name);
     closedir(directory);
     for (const std::string& name : names) {
-        if (name == "." || name == "..")
-            continue;
         require(stat((folder + name).c_str(), &status) == 0, folder + name);
         entries.push_back({ S_ISDIR(status.st_mode), prefix + name });
         if (S_ISDIR(status.st_mode))
@@ -116,10 +111,10 @@ private:
 template <class Signal> class BareLoop {
 public:
     // On the main thread, which serves the other until that has finished.
-    void run(const std::function<void()>& task)
+    void run(const std::string& source)
     {
         std::thread other([&] {
-            task();
+            perform(source);
             m_work = nullptr;
             m_request.raise();
         });
@@ -130,11 +125,8 @@ public:
         other.join();
     }
 
-    // On the other thread.
-    void install(const std::string& source);
-    void uninstall();
-
 private:
+    // These on the other thread. Without a source it uninstalls.
     void handOver(const std::function<void()>& work)
     {
         m_work = &work;
@@ -145,10 +137,7 @@ private:
     {
         handOver([&] { m_log.write(message); });
     }
-    void setProgress(std::size_t done, std::size_t count)
-    {
-        handOver([&] { m_progress = double(done) / double(count); });
-    }
+    void perform(const std::string& source);
 
     Log m_log;
     Signal m_request;
@@ -157,50 +146,38 @@ private:
     volatile double m_progress = 0;
 };
 
-template <class Signal> void BareLoop<Signal>::install(const std::string& source)
+template <class Signal> void BareLoop<Signal>::perform(const std::string& source)
 {
+    const bool removes = source.empty();
     std::vector<Entry> entries { { true, bundle } };
-    list(source + bundle + "/", bundle + "/", entries);
+    list((removes ? applications : source) + bundle + "/", bundle + "/", entries);
+    if (removes)
+        std::reverse(entries.begin(), entries.end());
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        const Entry& entry = entries[i];
-        const std::string destination = applications + entry.path;
-        report((entry.isFolder ? "mkdir " : " copy ") + destination);
-        if (entry.isFolder)
-            require(mkdir(destination.c_str(), 0777) == 0, destination);
-        else
-            copyFile(source + entry.path, destination);
-        setProgress(i + 1, entries.size());
+        const auto& [isFolder, name] = entries[i];
+        const std::string path = applications + name;
+        if (removes) {
+            report("remove " + path + (isFolder ? "/" : ""));
+            require(remove(path.c_str()) == 0, path);
+        } else if (isFolder) {
+            report("mkdir " + path);
+            require(mkdir(path.c_str(), 0777) == 0, path);
+        } else {
+            report(" copy " + path);
+            copyFile(source + name, path);
+        }
+        handOver([&] { m_progress = double(i + 1) / double(entries.size()); });
     }
-}
-
-template <class Signal> void BareLoop<Signal>::uninstall()
-{
-    std::vector<Entry> entries { { true, bundle } };
-    list(applications + bundle + "/", bundle + "/", entries);
-    for (std::size_t left = entries.size(); left > 0; --left) {
-        const Entry& entry = entries[left - 1];
-        const std::string path = applications + entry.path;
-        report("remove " + path + (entry.isFolder ? "/" : ""));
-        require(remove(path.c_str()) == 0, path);
-        setProgress(entries.size() - left + 1, entries.size());
-    }
-}
-
-template <class Signal> void run(const std::string& source)
-{
-    BareLoop<Signal> loop;
-    loop.run([&] { source.empty() ? loop.uninstall() : loop.install(source); });
 }
 
 }
 
 int main(int argc, char* argv[])
 {
-    const std::string waiting = argc > 1 ? argv[1] : "";
     const std::string source = argc > 3 ? argv[3] : "";
-    if (waiting == "asleep")
-        run<SleepingSignal>(source);
+    if (argc > 1 && std::string(argv[1]) == "asleep")
+        BareLoop<SleepingSignal>().run(source);
     else
-        run<SpinningSignal>(source);
+        BareLoop<SpinningSignal>().run(source);
     return EXIT_SUCCESS;
 }

@@ -5,12 +5,13 @@
 
 #include "MainInterface.h"
 #include "ViewController.h"
+#include "WindowQt.h"
 
 #include <AppKit/NSLayoutConstraint.h>
-#include <AppKit/NSWindow.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLayout>
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,11 +20,11 @@
 
 namespace {
 
-// Runs the loop until the pane has that height. The longest turn, in nanoseconds.
-qint64 awaitHeight(const ViewController& controller, CGFloat height)
+// Runs the loop until the window has that height. The longest turn, in nanoseconds.
+qint64 awaitHeight(const QWidget& window, int height)
 {
     qint64 longest = 0;
-    while (controller.resultPainView->bounds().size.height != height) {
+    while (window.height() != height) {
         QElapsedTimer turn;
         turn.start();
         QApplication::processEvents();
@@ -38,11 +39,12 @@ int main(int argc, char* argv[])
 {
     int qtCount = 1; // without the lines, which are no option of the controller's either
     const QApplication application(qtCount, argv);
-    const MainInterface interface;
-    const auto controller = ViewController::initWithCoder(interface);
-    interface.connect(controller);
-    interface.window()->makeKeyAndOrderFront();
-    awaitHeight(*controller, controller->m_resultPainViewHeight);
+    const auto window = std::make_shared<WindowQt>();
+    const auto controller = openMainInterface(*window);
+    window->setContentViewController(controller);
+    window->makeKeyAndOrderFront();
+    const int height = window->layout()->totalMinimumSize().height();
+    awaitHeight(*window, height);
     controller->resultPainViewHeightConstraint->setConstant(0);
     QApplication::processEvents();
 
@@ -54,7 +56,7 @@ int main(int argc, char* argv[])
     turn.start();
     controller->showResult();
     const qint64 first = turn.nsecsElapsed();
-    const qint64 rest = awaitHeight(*controller, controller->m_resultPainViewHeight);
+    const qint64 rest = awaitHeight(*window, height);
     std::cout << double(std::max(first, rest)) / 1e6 << '\n';
     return EXIT_SUCCESS;
 }

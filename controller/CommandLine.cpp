@@ -5,62 +5,54 @@
 #include <Foundation/NSProcessInfo.h>
 #include <Foundation/NSString.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
 
+struct Option {
+    const char* argument;
+    const char* name; // of the mode, in the log
+    ViewController::Mode mode;
+};
+
+using Mode = ViewController::Mode;
+constexpr std::array<Option, 3> options { {
+    { "-install", "install", Mode::install },
+    { "-install2", "unmount", Mode::unmount },
+    { "-uninstall", "uninstall", Mode::uninstall },
+} };
+
 // Without the pair of single quotes around it. A quote that carries an accent is no quote.
 std::string unquoted(const std::string& argument)
 {
-    const bool isQuoted = argument.size() >= 2 && NSString::firstCharacter(argument) == "'"
-        && NSString::lastCharacter(argument) == "'";
+    const bool isQuoted = argument.size() >= 2 && NSString::hasPrefix(argument, "'")
+        && NSString::hasSuffix(argument, "'");
     return isQuoted ? argument.substr(1, argument.size() - 2) : argument;
 }
 
 }
 
-const ViewController::ModeTexts& ViewController::textsOf(Mode mode)
-{
-    static constexpr std::array<ModeTexts, 3> texts { {
-        { "install", "Installing quillbarn", "", "quillbarn could not be installed" },
-        { "uninstall", "Removing quillbarn", "", "quillbarn could not be removed" },
-        { "unmount", "Ejecting the disk image",
-            "Ejecting the disk image: waiting for the volume to be free",
-            "The disk image could not be ejected" },
-    } };
-    return texts.at(std::size_t(mode));
-}
-
 std::optional<ViewController::CommandLineOption> ViewController::parseCommandLine() const
 {
-    std::optional<Mode> mode;
+    const Option* option = options.end();
     std::optional<std::string> path;
-    bool takeNext = false;
-    for (const std::string& argument : NSProcessInfo::processInfo().arguments()) {
-        const std::string text = unquoted(argument);
-        if (takeNext) {
+    const auto arguments = NSProcessInfo::processInfo().arguments();
+    for (std::size_t i = 0; i < arguments.size() && !path; ++i) {
+        const std::string text = unquoted(arguments[i]);
+        if (option != options.end())
             path = text;
-            break;
-        }
-        if (text == "-install") {
-            mode = Mode::install;
-            takeNext = true;
-        } else if (text == "-install2") {
-            mode = Mode::unmount;
-            takeNext = true;
-        } else if (text == "-uninstall") {
-            mode = Mode::uninstall;
+        else if (option = std::ranges::find(options, text, &Option::argument);
+                 option != options.end() && option->mode == Mode::uninstall)
             path = "";
-            break;
-        }
     }
     if (m_test) {
-        mode = Mode::unmount;
+        option = std::ranges::find(options, Mode::unmount, &Option::mode);
         path = "/Volumes/quillbarn installer/quillbarn.app";
     }
-    if (!mode || !path)
+    if (!path)
         return std::nullopt;
 
-    sharedLogger().log(textsOf(*mode).name + (' ' + *path), Logger::LogLevel::debug);
-    return CommandLineOption { *mode, *path };
+    sharedLogger().log(option->name + (' ' + *path), Logger::LogLevel::debug);
+    return CommandLineOption { option->mode, *path };
 }

@@ -26,8 +26,8 @@ constexpr double openingDuration = 0.5; // seconds
 void ViewController::showMessage(const std::string& message)
 {
     assert(NSThread::isMainThread());
-    const auto text = resultText.get();
-    const auto scrollView = resultTextScrollView.get();
+    const auto text = resultText.lock();
+    const auto scrollView = resultTextScrollView.lock();
     const auto endPosition
         = [&] { return text->frame().size.height - scrollView->contentSize().height; };
 
@@ -47,16 +47,16 @@ void ViewController::setProgress(std::int64_t index, std::int64_t count)
     progressIndicator->setDoubleValue(double(index + 1) / double(count));
 }
 
-void ViewController::showWaiting(Mode mode)
+void ViewController::setTitle(const std::string& title)
 {
     assert(NSThread::isMainThread());
-    view()->window()->setTitle(textsOf(mode).waitingTitle);
+    view()->window()->setTitle(title);
 }
 
 void ViewController::showResult()
 {
     assert(NSThread::isMainThread());
-    const auto scrollView = resultTextScrollView.get();
+    const auto scrollView = resultTextScrollView.lock();
     resultText->setFrame(
         { {}, { scrollView->bounds().size.width, resultText->frame().size.height } });
     resultText->sizeToFit();
@@ -73,9 +73,8 @@ void ViewController::showResult()
     resultButton->setEnabled(true);
 }
 
-void ViewController::showFailure(Mode mode, const std::string& description)
+void ViewController::showFailure(const std::string& description)
 {
-    view()->window()->setTitle(textsOf(mode).failureTitle);
     resultButton->setAccessibilityHelp(description);
     showResult();
 }
@@ -89,10 +88,8 @@ void ViewController::giveKeyboardToButton()
 void ViewController::finish()
 {
     assert(NSThread::isMainThread());
-    if (!m_test) {
-        closeWindow();
-        return;
-    }
+    if (!m_test)
+        return closeWindow();
     resultButton->setEnabled(true);
     giveKeyboardToButton();
 }

@@ -9,40 +9,19 @@
 #include <AppKit/NSProgressIndicator.h>
 #include <AppKit/NSScrollView.h>
 #include <AppKit/NSTextField.h>
-#include <AppKit/NSWindow.h>
 #include <Dispatch/DispatchQueue.h>
 
 void ViewController::viewDidLoad()
 {
     NSViewController::viewDidLoad();
     sharedLogger().log("installer start", Logger::LogLevel::normal);
-    requireOutlets();
     prepareWindow();
     NSApplication::sharedApplication().activateIgnoringOtherApps();
 
-    if (const std::optional<CommandLineOption> option = parseCommandLine()) {
-        startTask(*option);
-        return;
-    }
+    if (const std::optional<CommandLineOption> option = parseCommandLine())
+        return startTask(*option);
     showMessage("invalid options");
-    resultButton->setAccessibilityHelp("invalid options");
-    showResult();
-}
-
-void ViewController::requireOutlets() const
-{
-    const auto require = [](const auto& outlet, const char* name) {
-        if (outlet.get())
-            return;
-        sharedLogger().log(std::string("outlet not connected: ") + name, Logger::LogLevel::error);
-        NSApplication::sharedApplication().terminate();
-    };
-    require(progressIndicator, "progressIndicator");
-    require(resultPainView, "resultPainView");
-    require(resultPainViewHeightConstraint, "resultPainViewHeightConstraint");
-    require(resultTextScrollView, "resultTextScrollView");
-    require(resultText, "resultText");
-    require(resultButton, "resultButton");
+    showFailure("invalid options");
 }
 
 void ViewController::prepareWindow()
@@ -51,34 +30,31 @@ void ViewController::prepareWindow()
     progressIndicator->setMinValue(0.0);
     progressIndicator->setMaxValue(1.0);
     resultText->setStringValue("");
-    resultTextScrollView->setDocumentView(resultText.get());
+    resultTextScrollView->setDocumentView(resultText.lock());
     resultButton->setEnabled(false);
     if (!m_test)
         resultPainViewHeightConstraint->setConstant(0.0);
 }
 
+// The task keeps the controller until it has run.
 void ViewController::startTask(const CommandLineOption& option)
 {
-    view()->window()->setTitle(textsOf(option.mode).title);
+    WindowReport report(self(), option.mode);
+    report.begin();
     if (option.mode == Mode::unmount)
         progressIndicator->setDoubleValue(1.0);
     try {
-        DispatchQueue::global().async(taskOf(option));
+        DispatchQueue::global().async([controller = self(), option] {
+            switch (option.mode) {
+            case Mode::install:
+                return controller->installBundle(option.path);
+            case Mode::uninstall:
+                return controller->uninstallBundle();
+            case Mode::unmount:
+                return controller->unmountDiskImage(option.path);
+            }
+        });
     } catch (const NSError& error) {
-        WindowReport(self(), option.mode).fail(error);
+        report.fail(error);
     }
-}
-
-// The task keeps the controller until it has run.
-std::function<void()> ViewController::taskOf(const CommandLineOption& option)
-{
-    switch (option.mode) {
-    case Mode::install:
-        return [controller = self(), path = option.path] { controller->installBundle(path); };
-    case Mode::uninstall:
-        return [controller = self()] { controller->uninstallBundle(); };
-    case Mode::unmount:
-        return [controller = self(), path = option.path] { controller->unmountDiskImage(path); };
-    }
-    return nullptr;
 }

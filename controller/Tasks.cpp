@@ -1,19 +1,19 @@
 #include "ViewController.h"
 
-#include "InstallTask.h"
+#include "BundleTask.h"
 #include "UnmountTask.h"
 #include "WindowReport.h"
 
 void ViewController::installBundle(const std::string& sourcePath)
 {
     WindowReport report(self(), Mode::install);
-    InstallTask(report, applicationDir, bundleDir, dryRun()).run(sourcePath);
+    BundleTask(report, applicationDir, bundleDir, dryRun()).install(sourcePath);
 }
 
 void ViewController::uninstallBundle()
 {
     WindowReport report(self(), Mode::uninstall);
-    UninstallTask(report, applicationDir, bundleDir, dryRun()).run();
+    BundleTask(report, applicationDir, bundleDir, dryRun()).uninstall();
 }
 
 void ViewController::unmountDiskImage(const std::string& path)
@@ -27,9 +27,8 @@ std::vector<ViewController::File> ViewController::getFiles(
     return BundleTree::getFiles(folder, prefix);
 }
 
-void ViewController::removeBundle(
-    BundleTree::TopFolder topFolder, const UninstallTask::Progress& progress)
+void ViewController::removeBundle(TopFolder topFolder, const BundleTask::Progress& progress)
 {
     WindowReport report(self(), Mode::uninstall);
-    UninstallTask(report, applicationDir, bundleDir, dryRun()).removeBundle(topFolder, progress);
+    BundleTask(report, applicationDir, bundleDir, dryRun()).removeBundle(topFolder, progress);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "BundleTree.h"
-#include "UninstallTask.h"
+#include "BundleTask.h"
 
 #include <AppKit/IBOutlet.h>
 #include <AppKit/NSViewController.h>
@@ -27,8 +26,7 @@ public:
     static std::shared_ptr<ViewController> initWithNibName(
         const std::string& nibName, const NSBundle* bundle);
 
-    // Prepares the window and starts the task, or says that the options are invalid. An outlet that
-    // is not connected ends the run, with a line in the log.
+    // Prepares the window and starts the task, or says that the options are invalid.
     void viewDidLoad() override;
     void resultButtonClicked(const NSView* sender);
 
@@ -47,16 +45,6 @@ public:
 
     enum class Mode { install, uninstall, unmount };
 
-    // What a mode is called in the log, and in the window's title while it runs, while it waits, if
-    // it ever does, and after it failed.
-    struct ModeTexts {
-        const char* name;
-        const char* title;
-        const char* waitingTitle;
-        const char* failureTitle;
-    };
-    static const ModeTexts& textsOf(Mode mode);
-
     struct CommandLineOption {
         Mode mode;
         std::string path; // empty for uninstall
@@ -68,14 +56,13 @@ public:
     // The window. Paths and messages are bytes.
     void showMessage(const std::string& message);
     void setProgress(std::int64_t index, std::int64_t count);
-    void showWaiting(Mode mode);
+    void setTitle(const std::string& title);
     void showResult();
     void finish();
     void closeWindow();
 
-    // Says how the run failed to whoever reads the window's title or hears it read, and opens the
-    // pane.
-    void showFailure(Mode mode, const std::string& description);
+    // Opens the pane, whose button says how the run failed to whoever hears it read.
+    void showFailure(const std::string& description);
 
     // The tasks, each on a background thread. They return when they have reported their end; but
     // unmounting continues on the main thread once its first attempt has started.
@@ -83,18 +70,16 @@ public:
     void uninstallBundle();
     void unmountDiskImage(const std::string& path);
 
-    // What the tasks are made of: see BundleTree and UninstallTask.
+    // What the tasks are made of: see BundleTree and BundleTask.
     using File = BundleTree::File;
     static std::vector<File> getFiles(const std::string& folder, const std::string& prefix);
-    void removeBundle(BundleTree::TopFolder topFolder, const UninstallTask::Progress& progress);
+    void removeBundle(TopFolder topFolder, const BundleTask::Progress& progress);
 
 private:
     ViewController() = default;
 
-    void requireOutlets() const;
     void prepareWindow();
     void startTask(const CommandLineOption& option);
-    std::function<void()> taskOf(const CommandLineOption& option);
     void giveKeyboardToButton();
     DryRun dryRun() const { return m_test ? DryRun::yes : DryRun::no; }
     std::shared_ptr<ViewController> self();

@@ -3,10 +3,23 @@
 #include <Dispatch/DispatchQueue.h>
 #include <Foundation/NSThread.h>
 
+#include <array>
+
 WindowReport::WindowReport(std::shared_ptr<ViewController> controller, ViewController::Mode mode)
     : m_controller(std::move(controller))
-    , m_mode(mode)
+    , m_titles(titlesOf(mode))
 {
+}
+
+const WindowReport::Titles& WindowReport::titlesOf(ViewController::Mode mode)
+{
+    static constexpr std::array<Titles, 3> titles { {
+        { "Installing quillbarn", "", "quillbarn could not be installed" },
+        { "Removing quillbarn", "", "quillbarn could not be removed" },
+        { "Ejecting the disk image", "Ejecting the disk image: waiting for the volume to be free",
+            "The disk image could not be ejected" },
+    } };
+    return titles.at(std::size_t(mode));
 }
 
 void WindowReport::showMessage(const std::string& message)
@@ -24,7 +37,7 @@ void WindowReport::setProgress(std::int64_t index, std::int64_t count)
 
 void WindowReport::showWaiting()
 {
-    m_controller->showWaiting(m_mode);
+    m_controller->setTitle(m_titles.waiting);
 }
 
 void WindowReport::closeWindow()
@@ -39,7 +52,8 @@ void WindowReport::finish()
 
 void WindowReport::showFailure(const NSError& error)
 {
-    DispatchQueue::main().async([controller = m_controller, mode = m_mode, error] {
-        controller->showFailure(mode, error.localizedDescription());
+    DispatchQueue::main().async([controller = m_controller, title = m_titles.failed, error] {
+        controller->setTitle(title);
+        controller->showFailure(error.localizedDescription());
     });
 }

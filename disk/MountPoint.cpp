@@ -13,7 +13,7 @@ std::optional<NSURL> getDMGMountPointURL(const std::string& path)
     for (const NSURL& volume : volumes) {
         if (volume.scheme() != "file" || volume.path() == "/")
             continue;
-        if (NSString::rangeOfString(path, volume.path() + "/") == 0)
+        if (NSString::hasPrefix(path, volume.path() + "/"))
             return volume;
     }
     return std::nullopt;

@@ -33,8 +33,10 @@ void UnmountTask::run() const
 
 // What can't be looked at is still there.
 bool UnmountTask::pathExists() const
-{
-    return NSFileManager::defaultManager().fileExistsAtPath(m_path, nullptr).value_or(true);
+try {
+    return NSFileManager::defaultManager().fileExistsAtPath(m_path);
+} catch (const NSError&) {
+    return true;
 }
 
 void UnmountTask::tryEject() const
@@ -48,8 +50,7 @@ void UnmountTask::tryEject() const
     const auto volumeURL = getDMGMountPointURL(m_path);
     if (!volumeURL) {
         sharedLogger().log("getDMGMountPointURL failed", Logger::LogLevel::debug);
-        checkUnmountResult();
-        return;
+        return checkUnmountResult();
     }
     // A process whose working folder is on the volume keeps it in use.
     NSFileManager::defaultManager().changeCurrentDirectoryPath("/");
@@ -60,10 +61,8 @@ void UnmountTask::tryEject() const
 void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
 {
     DispatchQueue::main().async([task = *this, result] {
-        if (result == DiskImageEjector::Result::succeeded) {
-            task.checkUnmountResult();
-            return;
-        }
+        if (result == DiskImageEjector::Result::succeeded)
+            return task.checkUnmountResult();
         task.m_report->showWaiting();
         NSThread::sleepForTimeInterval(pauseAfterFailure);
         task.tryEject();

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-// Detaches the disk image that holds a path, trying again while it is in use. What ran is told by
-// whether the path is still there. A value: each step that runs later takes a copy along.
+// Detaches the disk image that holds a path, trying again while it is in use. It has succeeded when
+// the path is gone. Each step that runs later holds a copy of the task.
 class UnmountTask {
 public:
     // `ejectLoop` counts the attempts, written by one thread after the other; it lives as long as

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <Foundation/NSFileManager.h>
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,17 +14,15 @@ public:
         std::string path; // from the folder that holds the bundle, without a "/" at either end
     };
 
+    // Told of each folder, first of the one from which the listing starts, by its path without a
+    // "/" at the end. `fileManager` keeps the folders on the way to it open. Ends the listing by
+    // what it throws.
+    using Visitor = std::function<void(
+        const NSFileManager& fileManager, const std::string& folder, FileIdentity identity)>;
+
     // All entries below a folder, each folder before what it holds, under `prefix`. Both arguments
     // end in "/". Links to folders are followed, links that lead nowhere left out. Throws an
     // NSError. Safe on any thread.
-    static std::vector<File> getFiles(const std::string& folder, const std::string& prefix);
-
-    enum class TopFolder { exclude, include };
-    enum class LinksOut { follow, refuse };
-
-    // All entries of the bundle of that name in `parent`, which ends in "/"; first the bundle's own
-    // folder, if it is included. Throws an NSError, with `refuse` also where the bundle is a link,
-    // or a link in it leads to a folder elsewhere.
-    static std::vector<File> listBundle(
-        const std::string& parent, const std::string& name, TopFolder topFolder, LinksOut linksOut);
+    static std::vector<File> getFiles(
+        const std::string& folder, const std::string& prefix, const Visitor& visit = nullptr);
 };

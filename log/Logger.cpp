@@ -30,7 +30,7 @@ Logger::Logger(const std::string& path)
 {
     m_formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
     const NSFileManager& files = NSFileManager::defaultManager();
-    if (files.fileExistsAtPath(path, nullptr) == false && !files.createFileAtPath(path))
+    if (!files.createFileAtPath(path))
         return;
     m_file = NSFileHandle::fileHandleForWritingAtPath(path);
 }
@@ -40,10 +40,10 @@ void Logger::log(const std::string& message, LogLevel level)
     const std::lock_guard lock(m_mutex);
     if (!m_file)
         return;
-    const std::string entry = m_formatter.stringFromDate(NSDate::clock::now()) + ' '
+    const std::string line = (m_isInEntry ? "\n" : "")
+        + m_formatter.stringFromDate(NSDate::clock::now()) + ' '
         + std::to_string(NSProcessInfo::processInfo().processIdentifier()) + ' ' + letterOf(level)
         + ' ' + escaped(message) + '\n';
-    const std::string line = m_isInEntry ? '\n' + entry : entry;
     if (const std::size_t written = m_file->writeData(line))
         m_isInEntry = line[written - 1] != '\n';
     m_file->synchronizeFile();

@@ -1,60 +1,48 @@
 #include "MainInterface.h"
 
 #include "AppDelegate.h"
-#include "Icon.h"
+#include "HeightConstraintQt.h"
 #include "ViewController.h"
+#include "WindowQt.h"
 #include "ui_MainInterface.h"
-
-#include <AppKit/NSApplication.h>
-#include <AppKit/NSButton.h>
-
-#include <QFontDatabase>
 
 namespace {
 
 constexpr double headingScale = 1.3; // of the font of the rest
 
-std::shared_ptr<NSWindow> load(NSApplication& application)
+}
+
+std::shared_ptr<ViewController> openMainInterface(WindowQt& window)
+{
+    Ui::MainInterface ui;
+    ui.setupUi(&window);
+    window.setWindowIcon(QIcon(QStringLiteral(":/quillbarninstaller.svg")));
+    QFont heading = ui.productName->font();
+    heading.setPointSizeF(heading.pointSizeF() * headingScale);
+    heading.setBold(true);
+    ui.productName->setFont(heading);
+
+    const auto controller = ViewController::initWithCoder({ window.shared_from_this() });
+    controller->progressIndicator = window.outlet(ui.progressIndicator);
+    controller->resultPainView = window.outlet(ui.resultPainView);
+    controller->resultPainViewHeightConstraint
+        = window.outlet(new HeightConstraintQt(*ui.resultPainView));
+    controller->resultTextScrollView = window.outlet(ui.resultText);
+    controller->resultText = window.outlet(ui.resultText);
+    controller->resultButton = window.outlet(ui.resultButton);
+    window.setDefaultButton(*ui.resultButton);
+    QObject::connect(ui.resultButton, &QPushButton::clicked,
+        [button = ui.resultButton, weak = std::weak_ptr(controller)] {
+            if (const auto target = weak.lock())
+                target->resultButtonClicked(button);
+        });
+    return controller;
+}
+
+std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application)
 {
     application.setDelegate(std::make_shared<AppDelegate>());
-    const MainInterface interface;
-    interface.connect(ViewController::initWithCoder(interface));
-    return interface.window();
-}
-
-const NSMainInterface mainInterface(load);
-
-}
-
-MainInterface::MainInterface()
-    : m_ui(std::make_unique<Ui::MainInterface>())
-{
-    m_ui->setupUi(&dialog());
-    dialog().setWindowIcon(installerIcon());
-    m_ui->resultText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    QFont heading = m_ui->productName->font();
-    heading.setPointSizeF(heading.pointSizeF() * headingScale);
-    m_ui->productName->setFont(heading);
-}
-
-MainInterface::~MainInterface() = default;
-
-void MainInterface::connect(const std::shared_ptr<ViewController>& controller) const
-{
-    controller->progressIndicator = viewOf(m_ui->progressIndicator);
-    controller->resultPainView = viewOf(m_ui->resultPainView);
-    controller->resultPainViewHeightConstraint = heightConstraintOf(m_ui->resultPainView);
-    const Text text = textOf(m_ui->resultText);
-    controller->resultTextScrollView = text.scrollView;
-    controller->resultText = text.field;
-
-    const auto button = viewOf(m_ui->resultButton);
-    controller->resultButton = button;
-    button->setAction([weak = std::weak_ptr(controller)](NSView* sender) {
-        if (const auto target = weak.lock())
-            target->resultButtonClicked(sender);
-    });
-
-    window()->setDefaultButton(button);
-    window()->setContentViewController(controller);
+    const auto window = std::make_shared<WindowQt>();
+    window->setContentViewController(openMainInterface(*window));
+    return window;
 }

@@ -1,17 +1,12 @@
 #include <AppKit/NSApplication.h>
 
-#include "DispatchActivation.h"
+#include "MainQueue.h"
 
 #include <AppKit/NSWindow.h>
 
 #include <QApplication>
-#include <QTimer>
-#include <QWidget>
-#include <QWindow>
 
 #include <array>
-#include <cassert>
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -20,12 +15,6 @@
 #include <unistd.h>
 
 namespace {
-
-NSMainInterface::Load& mainInterface()
-{
-    static NSMainInterface::Load load = nullptr;
-    return load;
-}
 
 // What is written to a standard descriptor that was closed would end up in the next file opened.
 void openStandardDescriptors()
@@ -71,33 +60,52 @@ std::string missingDisplay(bool hasWaylandPlugin)
     return "without a display: start it in a desktop session, or set DISPLAY.";
 }
 
-// Where Qt can't have a display it ends the program with advice on plugins, and names those there
-// are. Better to say what is missing, and to drop the warnings that lead up to it.
-void explainMissingDisplay(QtMsgType type, const QMessageLogContext&, const QString& advice)
+// Once, on whichever thread comes first.
+[[noreturn]] void endWithoutDisplay()
 {
-    if (type != QtFatalMsg)
-        return;
-    const std::string missing = missingDisplay(advice.contains("wayland"));
-    std::fputs(("The window can’t be opened " + missing + "\n").c_str(), stderr);
+    static std::mutex never;
+    never.lock(); // and nobody unlocks it
+    NSApplicationDelegate& delegate = *NSApplication::sharedApplication().delegate();
+    delegate.applicationDidLoseDisplay();
+    delegate.applicationWillTerminate();
     _exit(EXIT_FAILURE);
 }
 
-// Until the window is on the screen, which it is drawn with. A desktop that shows no window is not
-// waited for long: a run needs nobody to look at it.
-void awaitFirstFrame(const QWidget& window)
+// Where the toolkit can't have a display it ends the program with advice on plugins, and names
+// those there are. Better to say what is missing, and to drop the warnings that lead up to it.
+// Later on it warns on any thread that it has lost a compositor, and calls _exit().
+void hear(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    QTimer patience;
-    patience.setSingleShot(true);
-    patience.start(std::chrono::seconds(1));
-    while (!window.windowHandle()->isExposed() && patience.isActive())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (NSApplication::sharedApplication().delegate()) {
+        std::fputs(qPrintable(qFormatLogMessage(type, context, message) + '\n'), stderr);
+        if (message.startsWith("The Wayland connection"))
+            endWithoutDisplay();
+    } else if (type == QtFatalMsg) {
+        const std::string missing = missingDisplay(message.contains("wayland"));
+        std::fputs(("The window can’t be opened " + missing + "\n").c_str(), stderr);
+        _exit(EXIT_FAILURE);
+    }
 }
 
+[[noreturn]] void run(NSApplication& application)
+{
+    const std::shared_ptr<NSWindow> window = loadMainInterface(application);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(qApp, &QApplication::lastWindowClosed, [&application] {
+        if (application.delegate()->applicationShouldTerminateAfterLastWindowClosed(application))
+            application.terminate();
+    });
+    application.delegate()->applicationDidFinishLaunching();
+    // Where the toolkit loses an X server it calls exit(), which nothing else in the program does.
+    std::atexit(endWithoutDisplay);
+    window->makeKeyAndOrderFront();
+    if (application.isToBeActive())
+        window->orderFrontRegardless();
+    activateDispatchQueues();
+    QApplication::exec();
+    application.terminate();
 }
 
-NSMainInterface::NSMainInterface(Load load)
-{
-    mainInterface() = load;
 }
 
 NSApplication& NSApplication::sharedApplication()
@@ -106,67 +114,11 @@ NSApplication& NSApplication::sharedApplication()
     return application;
 }
 
-void NSApplication::setDelegate(std::shared_ptr<NSApplicationDelegate> delegate)
-{
-    m_delegate = std::move(delegate);
-}
-
-void NSApplication::activateIgnoringOtherApps()
-{
-    m_isToBeActive = true;
-}
-
-// The toolkit has no other way to say it. Where it loses an X server it calls exit(), which nothing
-// else in the program does; where it loses a compositor it warns, on any thread, and calls _exit().
-void NSApplication::watchDisplay()
-{
-    std::atexit(endWithoutDisplay);
-    static QtMessageHandler usual = nullptr;
-    usual = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
-            usual(type, context, message);
-            if (message.startsWith("The Wayland connection"))
-                endWithoutDisplay();
-        });
-}
-
-void NSApplication::endWithoutDisplay()
-{
-    static std::mutex once;
-    once.lock(); // for good
-    NSApplicationDelegate& delegate = *sharedApplication().m_delegate;
-    delegate.applicationDidLoseDisplay();
-    delegate.applicationWillTerminate();
-    _exit(EXIT_FAILURE);
-}
-
 void NSApplication::terminate()
 {
     m_delegate->applicationWillTerminate();
     // Not exit(): a task may still be at work with what that would destroy.
     _exit(EXIT_SUCCESS);
-}
-
-int NSApplication::run()
-{
-    assert(mainInterface());
-    const std::shared_ptr<NSWindow> window = mainInterface()(*this);
-    QApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(qApp, &QApplication::lastWindowClosed, [this] {
-        if (m_delegate->applicationShouldTerminateAfterLastWindowClosed(*this))
-            terminate();
-    });
-    m_delegate->applicationDidFinishLaunching();
-    watchDisplay();
-    window->makeKeyAndOrderFront();
-    QWidget& widget = *QApplication::topLevelWidgets().first();
-    awaitFirstFrame(widget);
-    if (m_isToBeActive) { // which a desktop ignores before it knows the window
-        widget.raise();
-        widget.activateWindow();
-    }
-    activateDispatchQueues();
-    return QApplication::exec();
 }
 
 int NSApplicationMain(int argc, const char* const argv[])
@@ -179,8 +131,7 @@ int NSApplicationMain(int argc, const char* const argv[])
     std::string name = argc > 0 ? argv[0] : "";
     std::array<char*, 2> qtArguments { name.data(), nullptr };
     int qtCount = 1;
-    const QtMessageHandler usual = qInstallMessageHandler(explainMissingDisplay);
+    qInstallMessageHandler(hear);
     const QApplication qtApplication(qtCount, qtArguments.data());
-    qInstallMessageHandler(usual);
-    return NSApplication::sharedApplication().run();
+    run(NSApplication::sharedApplication());
 }

@@ -1,114 +1,95 @@
 #include "TextQt.h"
 
-#include <QAbstractTextDocumentLayout>
-#include <QEvent>
+#include <QFontDatabase>
+#include <QResizeEvent>
 #include <QScrollBar>
-#include <QTextBlock>
-#include <QTimer>
 
-#include <algorithm>
-#include <utility>
+#include <cmath>
 
-TextQt::TextQt(QPlainTextEdit& edit)
-    : m_edit(edit)
-{
-    m_edit.installEventFilter(this);
-    m_edit.viewport()->installEventFilter(this);
-    const QScrollBar* const bar = m_edit.verticalScrollBar();
-    QObject::connect(bar, &QScrollBar::rangeChanged, this, [this] { stayAtEnd(); });
-    QObject::connect(bar, &QScrollBar::valueChanged, this, [this, bar](int value) {
-        if (!m_isLayingOut)
-            m_isAtEnd = value == bar->maximum();
-    });
+namespace {
+
+constexpr int leastHeight = 40; // points
+
 }
 
-void TextQt::setValue(std::string_view text)
+TextQt::TextQt(QWidget* parent)
+    : ViewQt(parent)
 {
-    m_value.clear();
-    m_lines = 0;
-    m_published = 0;
-    m_edit.clear();
-    append(text);
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+    setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setMinimumHeight(leastHeight);
 }
 
-void TextQt::append(std::string_view text)
+void TextQt::setStringValue(std::string_view text)
 {
-    m_value += text;
-    m_lines += int(std::ranges::count(text, '\n'));
-    if (isSeen())
+    clear();
+    m_unpublished.clear();
+    appendString(text);
+}
+
+void TextQt::appendString(std::string_view text)
+{
+    m_unpublished += text;
+    if (isVisible())
         publish();
 }
 
-// The line feed that ends the last line begins no new one in the widget.
+// The line feed that ends the last line waits for the next: in the widget it would begin one.
 void TextQt::publish()
 {
-    const std::size_t end = m_value.size() - (m_value.ends_with('\n') ? 1 : 0);
-    if (end <= m_published)
-        return;
-    const auto added = std::string_view(m_value).substr(m_published, end - m_published);
-    m_published = end;
-    QTextCursor cursor(m_edit.document());
+    const std::size_t end = m_unpublished.size() - (m_unpublished.ends_with('\n') ? 1 : 0);
+    QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
-    cursor.insertText(QString::fromUtf8(added.data(), qsizetype(added.size())));
+    cursor.insertText(QString::fromUtf8(m_unpublished.data(), qsizetype(end)));
+    m_unpublished.erase(0, end);
 }
 
-int TextQt::rows() const
+NSRect TextQt::visibleRect() const
 {
-    return isSeen() ? m_edit.document()->lineCount() : m_lines;
+    return { { 0, verticalScrollBar()->value() * rowHeight() }, contentSize() };
 }
 
-int TextQt::rowHeight() const
+NSSize TextQt::contentSize() const
 {
-    return m_edit.fontMetrics().lineSpacing();
+    return { CGFloat(viewport()->width()), verticalScrollBar()->pageStep() * rowHeight() };
 }
 
-int TextQt::visibleRows() const
+void TextQt::scrollPoint(NSPoint point)
 {
-    return isSeen() ? m_edit.verticalScrollBar()->pageStep() : 0;
+    goTo(int(std::lround(point.y / rowHeight())));
 }
 
-int TextQt::firstVisibleRow() const
+// The rows of a line are known once it is laid out, and by then there may be more of them.
+void TextQt::goTo(int row)
 {
-    return isSeen() ? m_edit.verticalScrollBar()->value() : m_firstRow;
-}
-
-void TextQt::scrollTo(int row)
-{
-    m_firstRow = row;
-    m_isAtEnd = row >= rows() - visibleRows();
-    if (!isSeen())
-        return;
-    m_edit.verticalScrollBar()->setValue(row);
-    stayAtEnd();
-}
-
-void TextQt::stayAtEnd()
-{
-    if (isSeen() && m_isAtEnd)
-        m_edit.verticalScrollBar()->setValue(m_edit.verticalScrollBar()->maximum());
-}
-
-// On the way to a new size the widget scrolls to and fro, which nobody asked it to.
-void TextQt::awaitLayout()
-{
-    if (!std::exchange(m_isLayingOut, true))
-        QTimer::singleShot(0, this, [this] {
-            m_isLayingOut = false;
-            // The rows of a line are known once it is laid out, and the widget counts them before.
-            auto& layout = *m_edit.document()->documentLayout();
-            Q_EMIT layout.documentSizeChanged(layout.documentSize());
-            stayAtEnd();
-        });
-}
-
-bool TextQt::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize)
-        awaitLayout();
-    if (watched == &m_edit && event->type() == QEvent::Show) {
-        publish();
-        m_edit.moveCursor(QTextCursor::End);
-        scrollTo(m_isAtEnd ? rows() : m_firstRow);
+    QScrollBar& bar = *verticalScrollBar();
+    const bool isEnd = row >= bar.maximum();
+    bar.setValue(row);
+    for (int end = -1; isEnd && end != bar.maximum();) {
+        end = bar.maximum();
+        bar.setValue(end);
+        QResizeEvent unchanged(size(), size());
+        QPlainTextEdit::resizeEvent(&unchanged); // counts again
     }
-    return QObject::eventFilter(watched, event);
+}
+
+void TextQt::showEvent(QShowEvent* event)
+{
+    ViewQt::showEvent(event);
+    publish();
+    moveCursor(QTextCursor::End);
+    goTo(rows());
+    sizeToFit();
+}
+
+void TextQt::resizeEvent(QResizeEvent* event)
+{
+    const bool wasAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    ViewQt::resizeEvent(event);
+    if (wasAtEnd)
+        goTo(rows());
+    sizeToFit();
 }

@@ -1,42 +1,45 @@
 #pragma once
 
-#include <QObject>
+#include "ViewQt.h"
+
+#include <AppKit/NSScrollView.h>
+#include <AppKit/NSTextField.h>
+
 #include <QPlainTextEdit>
 
 #include <string>
-#include <string_view>
 
-// A text in the toolkit's text widget. As long as the widget can't be seen it gets nothing, so that
-// a line costs the same at any length of the text. Positions are rows: lines that are cut to the
-// widget's width; what can't be seen isn't cut.
-class TextQt : public QObject {
+// The toolkit's text widget, which scrolls by itself, in rows. As long as it can't be seen it gets
+// nothing, so that a line costs the same at any length of the text.
+class TextQt : public ViewQt<QPlainTextEdit, NSTextField, NSScrollView> {
 public:
-    explicit TextQt(QPlainTextEdit& edit);
+    explicit TextQt(QWidget* parent);
 
-    const std::string& value() const { return m_value; }
-    void setValue(std::string_view text);
-    void append(std::string_view text);
+    void setStringValue(std::string_view text) override;
+    void appendString(std::string_view text) override;
+    NSRect frame() const override { return { {}, { bounds().size.width, m_height } }; }
+    void setFrame(const NSRect& frame) override { m_height = frame.size.height; }
+    void sizeToFit() override { m_height = rows() * rowHeight(); }
+    NSRect visibleRect() const override;
+    void scrollPoint(NSPoint point) override;
 
-    int rows() const;
-    int rowHeight() const; // in points
-    int visibleRows() const;
-
-    // A view at the end stays there when the text is laid out anew.
-    int firstVisibleRow() const;
-    void scrollTo(int row);
+    std::shared_ptr<NSTextField> documentView() const override { return m_documentView.lock(); }
+    void setDocumentView(const std::shared_ptr<NSTextField>& view) override
+    {
+        m_documentView = view;
+    }
+    NSSize contentSize() const override;
 
 private:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    bool isSeen() const { return m_edit.isVisible(); }
-    void publish();
-    void stayAtEnd();
-    void awaitLayout();
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
-    QPlainTextEdit& m_edit;
-    std::string m_value;
-    int m_lines = 0;
-    std::size_t m_published = 0; // how many bytes of the value the widget holds
-    int m_firstRow = 0; // as long as it can't be seen
-    bool m_isAtEnd = true;
-    bool m_isLayingOut = false;
+    void publish();
+    void goTo(int row);
+    int rows() const { return document()->lineCount(); }
+    CGFloat rowHeight() const { return fontMetrics().lineSpacing(); }
+
+    std::weak_ptr<NSTextField> m_documentView;
+    std::string m_unpublished;
+    CGFloat m_height = 0;
 };

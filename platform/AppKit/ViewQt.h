@@ -1,32 +1,20 @@
 #pragma once
 
-#include "WindowQt.h"
-
 #include <AppKit/NSView.h>
+#include <AppKit/NSWindow.h>
 
 #include <QWidget>
 
-// What all views have in common that a widget of the window shows.
-template <class View, class Widget> class ViewQt : public View {
+// A widget of the toolkit's that is one or more views of the window it is in.
+template <class Widget, class... Views> class ViewQt : public Widget, public Views... {
 public:
-    explicit ViewQt(Widget* widget)
-        : m_widget(widget)
-    {
-    }
+    using Widget::Widget;
 
     NSRect bounds() const override
     {
-        return { {}, { CGFloat(m_widget->width()), CGFloat(m_widget->height()) } };
+        return { {}, { CGFloat(Widget::width()), CGFloat(Widget::height()) } };
     }
-    NSWindow* window() const override { return WindowQt::ofWidget(*m_widget); }
-    void setAccessibilityHelp(const std::string& help) override
-    {
-        m_widget->setAccessibleDescription(QString::fromStdString(help));
-    }
-
-protected:
-    Widget& widget() const { return *m_widget; }
-
-private:
-    Widget* const m_widget;
+    NSWindow* window() const override { return dynamic_cast<NSWindow*>(Widget::window()); }
 };
+
+using PlainViewQt = ViewQt<QWidget, NSView>;

@@ -1,43 +1,43 @@
 #pragma once
 
+#include "ViewQt.h"
+
 #include <AppKit/NSWindow.h>
 
 #include <QDialog>
 
-#include <memory>
-#include <vector>
+class QPushButton;
 
-class WindowQt : public NSWindow {
+// The window and the view that fills it: a dialog to a screen reader, with the controls of a
+// window. Its widgets are its views, and go with it.
+class WindowQt : public ViewQt<QDialog, NSView, NSWindow>,
+                 public std::enable_shared_from_this<WindowQt> {
 public:
-    WindowQt();
-    ~WindowQt() override;
-
-    QDialog& dialog() const { return *m_dialog; }
-
-    // The window a widget belongs to, or nullptr.
-    static NSWindow* ofWidget(const QWidget& widget);
-
-    // Keeps a view or constraint for as long as there is a window.
-    template <class Part> std::shared_ptr<Part> keep(std::shared_ptr<Part> part)
+    // `button` is what Escape, once it is told to, and the window's own close control press.
+    WindowQt()
+        : ViewQt(nullptr, Qt::Window)
     {
-        m_parts.push_back(part);
-        return part;
+    }
+    void setDefaultButton(QPushButton& button) { m_defaultButton = &button; }
+
+    // A view or constraint of this window, for an outlet.
+    template <class Part> std::shared_ptr<Part> outlet(Part* part)
+    {
+        return { shared_from_this(), part };
     }
 
-    std::shared_ptr<NSView> contentView() const override { return m_contentView; }
+    std::shared_ptr<NSView> contentView() override { return shared_from_this(); }
     void setTitle(const std::string& title) override;
     void setContentViewController(std::shared_ptr<NSViewController> controller) override;
-    void setDefaultButton(const std::shared_ptr<NSButton>& button) override;
     void enableKeyEquivalentForDefaultButton() override;
     void makeKeyAndOrderFront() override;
-    void close() override;
+    void orderFrontRegardless() override { activateWindow(); }
+    void close() override { QDialog::reject(); }
 
 private:
-    class DefaultButton;
+    void keyPressEvent(QKeyEvent* event) override;
+    void reject() override;
 
-    const std::unique_ptr<QDialog> m_dialog;
-    const std::shared_ptr<NSView> m_contentView;
-    std::vector<std::shared_ptr<void>> m_parts;
     std::shared_ptr<NSViewController> m_contentViewController;
-    DefaultButton* m_defaultButton = nullptr; // the dialog's
+    QPushButton* m_defaultButton = nullptr;
 };

@@ -5,8 +5,6 @@
 #include <QDBusObjectPath>
 #include <QMap>
 
-#include <optional>
-
 // The disk service, over a connection to the system bus of its own: a bus that has gone away once
 // spoils no later attempt. Every call waits for its answer, on any thread. An answer of another
 // type than documented is as good as none.
@@ -29,8 +27,8 @@ public:
 
     bool isConnected() const { return m_bus.isConnected(); }
 
-    // All that the service knows at that moment; none where the service or the bus is gone.
-    std::optional<Objects> objects() const;
+    // All that the service knows at that moment: nothing where the service or the bus is gone.
+    Objects objects() const;
 
     // Calls a method that takes options, with none, and answers nothing. There is no limit to the
     // time it takes: data is written to a disk, a person is asked for a password. `interface` is

@@ -13,7 +13,6 @@ constexpr int busDefault = -1;
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
 using Interfaces = QMap<QString, QVariantMap>; // the properties by their interface
-constexpr const char* objectsSignature = "a{oa{sa{sv}}}";
 
 QString fullName(const char* interface)
 {
@@ -25,35 +24,15 @@ bool isGranted(const QDBusMessage& answer, const char* signature)
     return answer.type() == QDBusMessage::ReplyMessage && answer.signature() == signature;
 }
 
-QString signatureOf(const QVariant& value)
-{
-    const bool isUnread = value.metaType() == QMetaType::fromType<QDBusArgument>();
-    return isUnread ? value.value<QDBusArgument>().currentSignature()
-                    : QDBusMetaType::typeToSignature(value.metaType());
-}
-
-// Leaves the value alone where there is no such property. False where that is of another type,
-// which must not be read.
+// As empty where there is no such property, or one of another type, which must not be read.
 template <class Value>
-bool read(const Interfaces& object, const char* interface, const char* name, const char* signature,
-    Value& value)
+Value read(const Interfaces& object, const char* interface, const char* name, const char* signature)
 {
     const QVariant property = object.value(fullName(interface)).value(name);
-    if (!property.isValid())
-        return true;
-    if (signatureOf(property) != signature)
-        return false;
-    value = qdbus_cast<Value>(property);
-    return true;
-}
-
-bool read(const Interfaces& interfaces, UDisks2::Object& object)
-{
-    return read(interfaces, "Filesystem", "MountPoints", "aay", object.mountPoints)
-        && read(interfaces, "Partition", "Table", "o", object.table)
-        && read(interfaces, "Block", "Drive", "o", object.drive)
-        && read(interfaces, "Loop", "BackingFile", "ay", object.backingFile)
-        && read(interfaces, "Drive", "Ejectable", "b", object.isEjectable);
+    const bool isUnread = property.metaType() == QMetaType::fromType<QDBusArgument>();
+    const QString found = isUnread ? property.value<QDBusArgument>().currentSignature()
+                                   : QDBusMetaType::typeToSignature(property.metaType());
+    return found == signature ? qdbus_cast<Value>(property) : Value();
 }
 
 }
@@ -69,20 +48,21 @@ UDisks2::~UDisks2()
     QDBusConnection::disconnectFromBus(m_name);
 }
 
-std::optional<UDisks2::Objects> UDisks2::objects() const
+UDisks2::Objects UDisks2::objects() const
 {
     const QDBusMessage question = QDBusMessage::createMethodCall(service,
         "/org/freedesktop/UDisks2", "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
     const QDBusMessage answer = m_bus.call(question, QDBus::Block, busDefault);
-    if (!isGranted(answer, objectsSignature))
-        return std::nullopt;
-
     Objects objects;
+    if (!isGranted(answer, "a{oa{sa{sv}}}"))
+        return objects;
     const auto found = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(answer.arguments().first());
-    for (auto object = found.begin(); object != found.end(); ++object) {
-        if (!read(object.value(), objects[object.key()]))
-            return std::nullopt;
-    }
+    for (auto object = found.begin(); object != found.end(); ++object)
+        objects[object.key()] = { read<QByteArrayList>(*object, "Filesystem", "MountPoints", "aay"),
+            read<QDBusObjectPath>(*object, "Partition", "Table", "o"),
+            read<QDBusObjectPath>(*object, "Block", "Drive", "o"),
+            read<QByteArray>(*object, "Loop", "BackingFile", "ay"),
+            read<bool>(*object, "Drive", "Ejectable", "b") };
     return objects;
 }
 

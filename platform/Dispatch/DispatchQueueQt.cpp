@@ -1,6 +1,5 @@
 #include <Dispatch/DispatchQueue.h>
 
-#include "DispatchActivation.h"
 #include "ErrorText.h"
 #include "FileDescriptor.h"
 #include "MainQueue.h"

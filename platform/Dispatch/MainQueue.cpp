@@ -16,18 +16,18 @@ constexpr std::chrono::milliseconds frame { 8 };
 // What one thread that submits synchronously waits for. Shared with the queue, which may still be
 // at it when the thread has already seen it come.
 struct MainQueue::Completion {
-    std::atomic_flag isDone;
+    std::atomic<bool> isDone = false;
     ShortWait wait;
 
     void await()
     {
-        if (!wait.spinUntil([this] { return isDone.test(std::memory_order_acquire); }))
+        if (!wait.spinUntil(isDone))
             isDone.wait(false, std::memory_order_acquire);
     }
 
     void signal()
     {
-        isDone.test_and_set(std::memory_order_release);
+        isDone.store(true, std::memory_order_release);
         isDone.notify_one();
     }
 };
@@ -46,7 +46,7 @@ void MainQueue::sync(const std::function<void()>& work)
 {
     assert(!NSThread::isMainThread());
     static thread_local const auto completion = std::make_shared<Completion>();
-    completion->isDone.clear();
+    completion->isDone = false;
     add({ [&work] { work(); }, completion });
     completion->await();
 }
@@ -75,8 +75,7 @@ void MainQueue::run()
             m_wakeMainThread();
             return;
         }
-    } while (m_idle.spinUntil([this] { return m_hasItems.load(std::memory_order_relaxed); })
-        || !fallAsleep());
+    } while (m_idle.spinUntil(m_hasItems) || !fallAsleep());
 }
 
 bool MainQueue::runNext()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <algorithm>
+#include <atomic>
 #include <chrono>
 
 // Waking a thread that sleeps on another core costs several times what a hand-over itself does. So
@@ -12,44 +12,11 @@
 class ShortWait {
 public:
     // Whether `isOver` came true while it was polled. If not, the caller sleeps.
-    template <class Condition> bool spinUntil(const Condition& isOver)
-    {
-        if (!hasOtherCore())
-            return isOver();
-        const bool rests = m_rests > 0;
-        const bool wasWorthIt = spin(rests ? wakingUp : usualWork, isOver);
-        if (wasWorthIt)
-            m_failures /= 2;
-        else if (rests)
-            --m_rests;
-        else
-            m_rests = m_failures = std::min(2 * m_failures + 1, mostRests);
-        return wasWorthIt;
-    }
+    bool spinUntil(const std::atomic<bool>& isOver);
 
 private:
-    using Clock = std::chrono::steady_clock;
-
-    static constexpr std::chrono::microseconds wakingUp { 50 };
-    static constexpr std::chrono::microseconds usualWork { 1000 };
-    static constexpr int pollsPerClockReading = 32;
-    static constexpr int mostRests = 255;
-
     static bool hasOtherCore();
-    static void relax();
-
-    template <class Condition> static bool spin(Clock::duration limit, const Condition& isOver)
-    {
-        const auto end = Clock::now() + limit;
-        do {
-            for (int i = 0; i < pollsPerClockReading; ++i) {
-                if (isOver())
-                    return true;
-                relax();
-            }
-        } while (Clock::now() < end);
-        return false;
-    }
+    static bool spin(std::chrono::microseconds limit, const std::atomic<bool>& isOver);
 
     int m_rests = 0; // how many waits from now on poll for the shorter time
     int m_failures = 0;

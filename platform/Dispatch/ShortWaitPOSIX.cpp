@@ -1,6 +1,23 @@
 #include "ShortWait.h"
 
+#include <algorithm>
 #include <sched.h>
+
+using namespace std::chrono_literals;
+
+bool ShortWait::spinUntil(const std::atomic<bool>& isOver)
+{
+    constexpr int mostRests = 255;
+    const bool rests = m_rests > 0;
+    const bool wasWorthIt = spin(!hasOtherCore() ? 0us : rests ? 50us : 1000us, isOver);
+    if (wasWorthIt)
+        m_failures /= 2;
+    else if (rests)
+        --m_rests;
+    else
+        m_rests = m_failures = std::min(2 * m_failures + 1, mostRests);
+    return wasWorthIt;
+}
 
 bool ShortWait::hasOtherCore()
 {
@@ -11,9 +28,14 @@ bool ShortWait::hasOtherCore()
     return hasOther;
 }
 
-void ShortWait::relax()
+// To read the clock takes as long as another core should be left alone.
+bool ShortWait::spin(std::chrono::microseconds limit, const std::atomic<bool>& isOver)
 {
-#if defined(__x86_64__)
-    __builtin_ia32_pause();
-#endif
+    constexpr auto now = std::chrono::steady_clock::now;
+    const auto end = now() + limit;
+    while (!isOver.load(std::memory_order_acquire)) {
+        if (now() >= end)
+            return false;
+    }
+    return true;
 }

@@ -9,14 +9,7 @@
 std::string quoted(const std::string& path);
 
 // "`what` because ...", with the reason that the system gave. `what` is a clause such as
-// "“/a” couldn’t be removed".
-std::string describe(const std::string& what, std::error_code reason);
-
-// Fill in `error`, where the caller wants one, and answer false.
-bool fail(NSError* error, const std::string& description);
-bool failBecause(NSError* error, const std::string& what, std::error_code reason);
-
-// The same for an item at `path` that is not to be read but changed: where the caller may not, it
-// says who may.
-bool failToChange(
-    NSError* error, const std::string& path, const std::string& what, std::error_code reason);
+// "“/a” couldn’t be removed". Where an item was to be changed, and not only read, its path is
+// `changed`: then it says who may, if the caller may not.
+std::string describe(
+    const std::string& what, std::error_code reason, const std::string& changed = "");

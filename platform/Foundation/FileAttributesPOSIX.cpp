@@ -1,101 +1,73 @@
-#include "FileAttributes.h"
+#include "FileCopy.h"
 
 #include <array>
-#include <cerrno>
 #include <linux/limits.h>
-#include <string>
+#include <string_view>
 #include <sys/xattr.h>
-#include <unistd.h>
 
 namespace {
 
 constexpr mode_t modeWithoutSetIDs = 0777 | S_ISVTX;
+constexpr const char* accessControlList = "system.posix_acl_access";
 
-enum class AttributeKind { plain, accessControlList };
+// The volume, or the caller, doesn't have what was asked for.
+constexpr std::initializer_list<int> refusals { EACCES, ENODATA, ENOSPC, ENOSYS, EOPNOTSUPP,
+    EPERM };
 
-AttributeKind kindOf(const std::string& name)
+void copyAttribute(const FileDescriptor& from, const FileDescriptor& to, const char* name)
 {
-    return name.starts_with("system.posix_acl_") ? AttributeKind::accessControlList
-                                                 : AttributeKind::plain;
+    static thread_local std::array<char, XATTR_SIZE_MAX> value;
+    const auto size = check(
+        [&] { return fgetxattr(from.number(), name, value.data(), value.size()); }, refusals);
+    if (size >= 0)
+        check([&] { return fsetxattr(to.number(), name, value.data(), std::size_t(size), 0); },
+            refusals);
 }
 
-// Capabilities would make the copy more than a file.
-bool isToBeCopied(const std::string& name, AttributeKind kind)
+// Capabilities would make the copy more than a file. Answers whether there is a list, which would
+// overwrite the mode and is left out here.
+bool copyPlainAttributes(const FileDescriptor& from, const FileDescriptor& to)
 {
-    return kindOf(name) == kind && name != "security.capability";
-}
-
-bool isNotPermitted(std::error_code error)
-{
-    return isUnsupported(error) || error == std::errc::permission_denied;
-}
-
-// The names of all extended attributes, each followed by a NUL byte.
-std::error_code readAttributeNames(const FileDescriptor& file, std::string& names)
-{
-    std::array<char, 256> few {};
-    ssize_t size = flistxattr(file.number(), few.data(), few.size());
-    if (size >= 0) {
-        names.assign(few.data(), std::size_t(size));
-        return {};
+    static thread_local std::array<char, XATTR_LIST_MAX> names; // each followed by a NUL byte
+    const auto list = [&](std::size_t room) {
+        return check([&] { return flistxattr(from.number(), names.data(), room); }, refusals);
+    };
+    // The system takes its time to find room for so many, where as a rule there are none.
+    const auto size = list(0) > 0 ? list(names.size()) : 0;
+    bool hasList = false;
+    for (ssize_t start = 0; start < size;) {
+        const std::string_view name = &names[std::size_t(start)];
+        if (name == accessControlList)
+            hasList = true;
+        else if (name != "security.capability")
+            copyAttribute(from, to, name.data());
+        start += ssize_t(name.size()) + 1;
     }
-    if (errno == ERANGE) {
-        names.resize(XATTR_LIST_MAX);
-        size = flistxattr(file.number(), names.data(), names.size());
-    }
-    const auto error = errorOf(size);
-    names.resize(error ? 0 : std::size_t(size));
-    return isNotPermitted(error) ? std::error_code() : error;
+    return hasList;
 }
 
-std::error_code copyAttribute(
-    const FileDescriptor& from, const FileDescriptor& to, const char* name, std::string& value)
+// A new file may have got one from its folder.
+void removeList(const FileDescriptor& file)
 {
-    value.resize(XATTR_SIZE_MAX);
-    const ssize_t size = fgetxattr(from.number(), name, value.data(), value.size());
-    auto error = errorOf(size);
-    if (!error) {
-        error = errorOf(fsetxattr(to.number(), name, value.data(), std::size_t(size), 0));
-        if (error == std::errc::no_space_on_device)
-            return {};
-    }
-    return isNotPermitted(error) ? std::error_code() : error;
-}
-
-std::error_code copyAttributes(const FileDescriptor& from, const FileDescriptor& to,
-    const std::string& names, AttributeKind kind)
-{
-    std::string value;
-    for (std::size_t start = 0; start < names.size();) {
-        const std::string name = names.c_str() + start;
-        start += name.size() + 1;
-        if (isToBeCopied(name, kind))
-            if (const auto error = copyAttribute(from, to, name.c_str(), value))
-                return error;
-    }
-    return {};
+    if (check([&] { return fgetxattr(file.number(), accessControlList, nullptr, 0); }, refusals)
+        >= 0)
+        check([&] { return fremovexattr(file.number(), accessControlList); }, refusals);
 }
 
 }
 
-std::error_code copyFileAttributes(
+void copyFileAttributes(
     const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
     // In this order nothing undoes what was done before it: a change of owner drops capabilities, a
     // mode without write permission refuses attributes, a mode overwrites a list's mask.
-    std::string names;
-    if (const auto error = readAttributeNames(from, names))
-        return error;
-    [[maybe_unused]] const int ownerMayStay = fchown(to.number(), status.st_uid, status.st_gid);
-    if (const auto error = copyAttributes(from, to, names, AttributeKind::plain))
-        return error;
-    auto error = errorOf(fchmod(to.number(), status.st_mode & modeWithoutSetIDs));
-    if (error && !isUnsupported(error))
-        return error;
-    error = copyAttributes(from, to, names, AttributeKind::accessControlList);
-    if (error)
-        return error;
+    uninterrupted([&] { return fchown(to.number(), status.st_uid, status.st_gid); }); // may fail
+    const bool hasList = copyPlainAttributes(from, to);
+    check([&] { return fchmod(to.number(), status.st_mode & modeWithoutSetIDs); }, refusals);
+    if (hasList)
+        copyAttribute(from, to, accessControlList);
+    else
+        removeList(to);
     const std::array<timespec, 2> times { status.st_atim, status.st_mtim };
-    error = errorOf(futimens(to.number(), times.data()));
-    return isUnsupported(error) ? std::error_code() : error;
+    check([&] { return futimens(to.number(), times.data()); }, refusals);
 }

@@ -1,142 +1,146 @@
 #include "FileCopy.h"
 
 #include "ErrorText.h"
-#include "FileAttributes.h"
-#include "FileData.h"
-#include "NewFile.h"
 
 #include <array>
+#include <cstdio>
 #include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
-class ItemCopy {
+// A file that is written out of sight and appears under its name whole, or not at all: where the
+// file system can, it has no name until then, so that nothing of it outlives the process.
+class NewFile {
 public:
-    ItemCopy(const std::string& path, const std::string& toPath, NSError* error)
-        : m_path(path)
-        , m_toPath(toPath)
-        , m_error(error)
-    {
-    }
+    explicit NewFile(const Item& item);
+    ~NewFile();
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
 
-    bool run(OpenFolders& sources, OpenFolders& destinations);
+    // Open for writing, with access for the owner alone.
+    const FileDescriptor& descriptor() const { return m_descriptor; }
+
+    // Gives the file its name, unless that is taken.
+    void publish();
 
 private:
-    bool copyFile(const struct stat& status) const;
-    bool copyLink(const struct stat& status) const;
-    bool copySpecialFile(const struct stat& status) const;
-    bool copyOwnerAndTimes(const struct stat& status) const;
+    void close();
+    void rename();
 
-    bool failToRead(std::error_code reason) const
-    {
-        return failBecause(m_error, quoted(m_path) + " couldn’t be read", reason);
-    }
-    std::string failure() const
-    {
-        return quoted(m_path) + " couldn’t be copied to " + quoted(m_toPath);
-    }
-    bool failToCopy(std::error_code reason) const
-    {
-        return failToChange(m_error, m_toPath, failure(), reason);
-    }
-
-    const std::string& m_path;
-    const std::string& m_toPath;
-    NSError* const m_error;
-    Place m_from;
-    Place m_to;
+    const Item& m_item;
+    std::string m_temporaryName; // empty: the file has no name that is to go
+    FileDescriptor m_descriptor;
 };
 
-bool ItemCopy::run(OpenFolders& sources, OpenFolders& destinations)
+NewFile::NewFile(const Item& item)
+    : m_item(item)
 {
-    struct stat status = {};
-    auto reason = sources.find(m_path, m_from);
-    if (!reason)
-        reason = readStatus(m_from, status);
-    if (reason)
-        return failToRead(reason);
-    reason = destinations.find(m_toPath, m_to);
-    if (reason)
-        return failToCopy(reason);
-    switch (status.st_mode & S_IFMT) {
-    case S_IFREG:
-        return copyFile(status);
-    case S_IFLNK:
-        return copyLink(status);
-    case S_IFIFO:
-    case S_IFSOCK:
-        return copySpecialFile(status);
-    case S_IFDIR:
-        return failToCopy(make_error_code(std::errc::is_a_directory));
-    default:
-        return fail(m_error, failure() + " because it is a device.");
+    const auto create = [&](const char* name, int flags, std::initializer_list<int> expected) {
+        constexpr mode_t ownerAlone = 0600;
+        return FileDescriptor(check(
+            [&] { return openat(item.folder, name, flags | O_WRONLY | O_CLOEXEC, ownerAlone); },
+            expected));
+    };
+    m_descriptor = create(".", O_TMPFILE, { EISDIR, ENOSYS, EOPNOTSUPP });
+    if (m_descriptor.isOpen())
+        return;
+    const std::string name = ".quillbarn-" + std::to_string(getpid());
+    m_descriptor = create(name.c_str(), O_CREAT | O_EXCL, {});
+    m_temporaryName = name;
+}
+
+NewFile::~NewFile()
+{
+    if (!m_temporaryName.empty())
+        unlinkat(m_item.folder, m_temporaryName.c_str(), 0);
+}
+
+void NewFile::publish()
+{
+    if (!m_temporaryName.empty()) {
+        close();
+        rename();
+        m_temporaryName.clear();
+        return;
     }
+    static const FileDescriptor openFiles(open("/proc/self/fd", O_PATH | O_CLOEXEC));
+    const std::string self = std::to_string(m_descriptor.number());
+    check([&] {
+        return linkat(openFiles.number(), self.c_str(), m_item.folder, m_item.name.c_str(),
+            AT_SYMLINK_FOLLOW);
+    });
+    m_temporaryName = m_item.name;
+    close();
+    m_temporaryName.clear();
 }
 
-bool ItemCopy::copyFile(const struct stat& status) const
+// On a network some errors of writing come with the close only.
+void NewFile::close()
 {
+    if (::close(m_descriptor.release()) < 0 && errno != EINTR)
+        throw lastError();
+}
+
+void NewFile::rename()
+{
+    const char* const from = m_temporaryName.c_str();
+    const char* const to = m_item.name.c_str();
+    const auto tryRename = [&](unsigned flags, std::initializer_list<int> expected) {
+        return check(
+            [&] { return renameat2(m_item.folder, from, m_item.folder, to, flags); }, expected);
+    };
+    if (tryRename(RENAME_NOREPLACE, { EINVAL, ENOSYS, EOPNOTSUPP }) == 0)
+        return;
+    // A file system that can't refuse to replace: look first.
+    if (faccessat(m_item.folder, to, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+        throw std::system_error(make_error_code(std::errc::file_exists));
+    tryRename(0, {});
+}
+
+void copyFile(const CopySource& source, const Item& to)
+{
+    NewFile copy(to);
+    copyFileData(source.file, source.status, copy.descriptor());
+    copyFileAttributes(source.file, source.status, copy.descriptor());
+    copy.publish();
+}
+
+void copyLink(const CopySource& source, const Item& to)
+{
+    const char* const name = to.name.c_str();
+    if (check([&] { return symlinkat(source.link.c_str(), to.folder, name); }, { EEXIST }) < 0
+        && readLink(to) != source.link)
+        throw std::system_error(make_error_code(std::errc::file_exists));
+    const std::array<timespec, 2> times { source.status.st_atim, source.status.st_mtim };
+    uninterrupted([&] { // may fail
+        return fchownat(
+            to.folder, name, source.status.st_uid, source.status.st_gid, AT_SYMLINK_NOFOLLOW);
+    });
+    check([&] { return utimensat(to.folder, name, times.data(), AT_SYMLINK_NOFOLLOW); },
+        { ENOSYS, EOPNOTSUPP, EPERM });
+}
+
+}
+
+CopySource::CopySource(OpenFolders& folders, const std::string& path)
+try {
+    const Item item = folders.find(path);
+    const char* const name = item.name.c_str();
+    check([&] { return fstatat(item.folder, name, &status, AT_SYMLINK_NOFOLLOW); });
     // O_NONBLOCK: what has become a pipe since its status was read is not waited for.
-    const FileDescriptor from(
-        openat(m_from.folder, m_from.name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!from.isOpen())
-        return failToRead(lastError());
-
-    NewFile copy(m_to);
-    auto error = copy.error();
-    if (!error)
-        error = copyFileData(from, status, copy.descriptor());
-    if (!error)
-        error = copyFileAttributes(from, status, copy.descriptor());
-    if (!error)
-        error = copy.publish();
-    return !error || failToCopy(error);
+    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    if (S_ISREG(status.st_mode))
+        file = FileDescriptor(check([&] { return openat(item.folder, name, flags); }));
+    else if (S_ISLNK(status.st_mode))
+        link = readLink(item).value_or("");
+} catch (const std::system_error& reason) {
+    throw NSError(describe(quoted(path) + " couldn’t be read", reason.code()));
 }
 
-bool ItemCopy::copyLink(const struct stat& status) const
+void copyItem(const CopySource& source, const Item& to)
 {
-    std::string destination;
-    if (const auto reason = readLink(m_from, destination))
-        return failToRead(reason);
-    auto reason = errorOf(symlinkat(destination.c_str(), m_to.folder, m_to.name.c_str()));
-    std::string present;
-    if (reason == std::errc::file_exists && !readLink(m_to, present) && present == destination)
-        reason.clear();
-    if (isUnsupported(reason))
-        return fail(m_error, failure() + " because the volume has no links.");
-    if (reason)
-        return failToCopy(reason);
-    return copyOwnerAndTimes(status);
-}
-
-// A pipe or socket is made anew, never opened: reading one could wait for ever.
-bool ItemCopy::copySpecialFile(const struct stat& status) const
-{
-    const char* const name = m_to.name.c_str();
-    const mode_t permissions = status.st_mode & 0777;
-    auto reason = errorOf(mknodat(m_to.folder, name, (status.st_mode & S_IFMT) | permissions, 0));
-    if (!reason)
-        reason = errorOf(fchmodat(m_to.folder, name, permissions, AT_SYMLINK_NOFOLLOW));
-    if (reason)
-        return failToCopy(reason);
-    return copyOwnerAndTimes(status);
-}
-
-// Of what has no content, owner and times are kept where that is allowed.
-bool ItemCopy::copyOwnerAndTimes(const struct stat& status) const
-{
-    const char* const name = m_to.name.c_str();
-    const std::array<timespec, 2> times { status.st_atim, status.st_mtim };
-    [[maybe_unused]] const int ownerMayStay
-        = fchownat(m_to.folder, name, status.st_uid, status.st_gid, AT_SYMLINK_NOFOLLOW);
-    const auto reason = errorOf(utimensat(m_to.folder, name, times.data(), AT_SYMLINK_NOFOLLOW));
-    return !reason || isUnsupported(reason) || failToCopy(reason);
-}
-
-}
-
-bool copyItem(OpenFolders& sources, const std::string& path, OpenFolders& destinations,
-    const std::string& toPath, NSError* error)
-{
-    return ItemCopy(path, toPath, error).run(sources, destinations);
+    if (source.file.isOpen())
+        copyFile(source, to);
+    else
+        copyLink(source, to);
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <cerrno>
+#include <initializer_list>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 
 // An open file of this process, closed when its owner goes: of a file, a folder, an event. Moves.
@@ -13,9 +17,20 @@ public:
         : m_number(number)
     {
     }
-    ~FileDescriptor() { [[maybe_unused]] const auto lost = close(); }
-    FileDescriptor(FileDescriptor&& other) noexcept;
-    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+    ~FileDescriptor()
+    {
+        if (isOpen())
+            ::close(m_number);
+    }
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : m_number(other.release())
+    {
+    }
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(m_number, other.m_number);
+        return *this;
+    }
 
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
@@ -23,18 +38,32 @@ public:
     // Leaves the closing to someone else.
     int release() { return std::exchange(m_number, -1); }
 
-    // On a network some errors of writing come with the close only.
-    std::error_code close();
-
 private:
     int m_number = -1;
 };
 
-// What the system call that has just failed says.
-std::error_code lastError();
+// What the system call that has just failed says, to be thrown.
+inline std::system_error lastError()
+{
+    return { errno, std::generic_category() };
+}
 
-// The error of a system call that returned this: none, unless it is negative.
-std::error_code errorOf(long result);
+// Calls the system, again whenever a signal interrupts it, and answers what it answers. Not for
+// close(), which is over even then.
+template <class Call> auto uninterrupted(const Call& call)
+{
+    for (;;) {
+        const auto answer = call();
+        if (answer >= 0 || errno != EINTR)
+            return answer;
+    }
+}
 
-// Whether an error says that this file system, or this caller, doesn't have what was asked for.
-bool isUnsupported(std::error_code error);
+// The same, and throws its error, unless that is one of those `expected`.
+template <class Call> auto check(const Call& call, std::initializer_list<int> expected = {})
+{
+    const auto answer = uninterrupted(call);
+    if (answer < 0 && std::ranges::find(expected, errno) == expected.end())
+        throw lastError();
+    return answer;
+}

@@ -21,7 +21,7 @@ std::shared_ptr<NSFileHandle> NSFileHandle::fileHandleForWritingAtPath(const std
 {
     // O_NONBLOCK: a pipe in the file's place that nobody reads is refused, not waited for.
     constexpr int flags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    FileDescriptor file(open(path.c_str(), flags));
+    FileDescriptor file(uninterrupted([&] { return open(path.c_str(), flags); }));
     return isFileWithOneName(file) ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
 }
 
@@ -36,7 +36,8 @@ std::size_t NSFileHandle::writeData(std::string_view data)
 {
     std::size_t done = 0;
     while (done < data.size()) {
-        const ssize_t written = write(m_file->number(), data.data() + done, data.size() - done);
+        const auto written = uninterrupted(
+            [&] { return write(m_file->number(), data.data() + done, data.size() - done); });
         if (written <= 0)
             break;
         done += std::size_t(written);
@@ -46,10 +47,10 @@ std::size_t NSFileHandle::writeData(std::string_view data)
 
 void NSFileHandle::synchronizeFile()
 {
-    fdatasync(m_file->number());
+    uninterrupted([&] { return fdatasync(m_file->number()); });
 }
 
 void NSFileHandle::closeFile()
 {
-    [[maybe_unused]] const auto lost = m_file->close();
+    *m_file = FileDescriptor();
 }

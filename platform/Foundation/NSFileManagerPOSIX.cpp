@@ -3,18 +3,26 @@
 #include "ErrorText.h"
 #include "OpenFolders.h"
 
-#include <cerrno>
 #include <fcntl.h>
-#include <unistd.h>
+#include <filesystem>
+#include <sys/stat.h>
 
 namespace {
 
+constexpr std::initializer_list<int> absence { ELOOP, ENOENT, ENOTDIR };
 constexpr const char* failedLook = " couldn’t be looked at";
 
 bool createNew(const std::string& path)
 {
-    return FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666))
-        .isOpen();
+    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    return FileDescriptor(uninterrupted([&] { return open(path.c_str(), flags, 0666); })).isOpen();
+}
+
+bool leadsNowhere(const std::string& path)
+{
+    std::error_code reason;
+    return is_symlink(std::filesystem::symlink_status(path, reason))
+        && !exists(std::filesystem::status(path, reason));
 }
 
 }
@@ -37,72 +45,54 @@ const NSFileManager& NSFileManager::defaultManager()
     return manager;
 }
 
-std::error_code NSFileManager::find(const std::string& path, Place& place) const
+Item NSFileManager::find(const std::string& path, std::initializer_list<int> expected) const
 {
-    place = { AT_FDCWD, path };
-    return m_folders ? m_folders->find(path, place) : std::error_code();
+    return m_folders ? m_folders->find(path, expected) : Item { AT_FDCWD, path };
 }
 
-std::error_code NSFileManager::followStatus(const std::string& path, struct stat& status) const
-{
-    Place place;
-    const auto error = find(path, place);
-    return error ? error : errorOf(fstatat(place.folder, place.name.c_str(), &status, 0));
+std::optional<FileIdentity> NSFileManager::fileExistsAtPath(
+    const std::string& path, bool& isDirectory) const
+try {
+    struct stat status = {};
+    const Item item = find(path, absence);
+    if (item.folder == -1
+        || check([&] { return fstatat(item.folder, item.name.c_str(), &status, 0); }, absence) < 0)
+        return std::nullopt;
+    isDirectory = S_ISDIR(status.st_mode);
+    return FileIdentity { status.st_dev, status.st_ino };
+} catch (const std::system_error& reason) {
+    throw NSError(describe(quoted(path) + failedLook, reason.code()));
 }
 
-std::optional<bool> NSFileManager::fileExistsAtPath(const std::string& path, NSError* error) const
+bool NSFileManager::fileExistsAtPath(const std::string& path) const
 {
     bool isDirectory = false;
-    return fileExistsAtPath(path, isDirectory, error);
+    return fileExistsAtPath(path, isDirectory).has_value();
 }
 
-std::optional<bool> NSFileManager::fileExistsAtPath(
-    const std::string& path, bool& isDirectory, NSError* error) const
-{
-    struct stat status = {};
-    const auto reason = followStatus(path, status);
-    isDirectory = S_ISDIR(status.st_mode);
-    if (!reason)
-        return true;
-    if (isAbsence(reason))
-        return false;
-    failBecause(error, quoted(path) + failedLook, reason);
-    return std::nullopt;
-}
-
-std::optional<std::vector<std::string>> NSFileManager::contentsOfDirectoryAtPath(
-    const std::string& path, NSError* error) const
-{
-    Place place;
-    std::vector<std::string> names;
-    auto reason = find(path, place);
-    if (!reason)
-        reason = readNames(place, names);
-    if (!reason)
-        return names;
-    failBecause(error, "The folder " + quoted(path) + " couldn’t be opened", reason);
-    return std::nullopt;
+std::vector<std::string> NSFileManager::contentsOfDirectoryAtPath(const std::string& path) const
+try {
+    return namesIn(find(path));
+} catch (const std::system_error& reason) {
+    throw NSError(describe("The folder " + quoted(path) + " couldn’t be opened", reason.code()));
 }
 
 std::optional<std::string> NSFileManager::destinationOfSymbolicLinkAtPath(
     const std::string& path) const
-{
-    Place place;
-    std::string destination;
-    if (find(path, place) || readLink(place, destination))
-        return std::nullopt;
-    return destination;
+try {
+    return readLink(find(path));
+} catch (const std::system_error& reason) {
+    throw NSError(describe(quoted(path) + failedLook, reason.code()));
 }
 
-std::optional<NSFileIdentity> NSFileManager::fileIdentityAtPath(
-    const std::string& path, NSError* error) const
+// The kernel names what it has opened in one step; asking for each part of the path in turn, as
+// realpath() does, takes minutes on a path of a thousand folders.
+std::string NSFileManager::stringByResolvingSymlinksInPath(const std::string& path) const
 {
-    struct stat status = {};
-    if (const auto reason = followStatus(path, status)) {
-        failBecause(error, quoted(path) + failedLook, reason);
-        return std::nullopt;
-    }
-    return NSFileIdentity { status.st_dev, status.st_ino };
+    const FileDescriptor item(
+        uninterrupted([&] { return open(path.c_str(), O_PATH | O_CLOEXEC); }));
+    const std::string name = "/proc/self/fd/" + std::to_string(item.number());
+    return destinationOfSymbolicLinkAtPath(name).value_or(path);
 }
 
 bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
@@ -115,7 +105,5 @@ bool NSFileManager::createFileAtPath(const std::string& path) const
     if (createNew(path))
         return true;
     const bool isThere = errno == EEXIST;
-    const bool leadsNowhere = isThere && destinationOfSymbolicLinkAtPath(path)
-        && fileExistsAtPath(path, nullptr) == false;
-    return leadsNowhere ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
+    return leadsNowhere(path) ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
 }

@@ -1,56 +1,45 @@
 #include <Foundation/NSString.h>
 
-#include "DecodedText.h"
-
+#include <QString>
 #include <QTextBoundaryFinder>
-
-#include <algorithm>
-#include <vector>
 
 namespace {
 
-std::vector<QStringView> charactersOf(const QString& text)
+bool isText(std::string_view bytes)
 {
-    std::vector<QStringView> characters;
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, text);
-    for (qsizetype start = 0; start < text.size(); start = boundaries.position())
-        characters.push_back(QStringView(text).first(boundaries.toNextBoundary()).sliced(start));
-    return characters;
+    return QByteArrayView(bytes.data(), qsizetype(bytes.size())).isValidUtf8();
 }
 
-bool areEquivalent(QStringView one, QStringView other)
+// Equivalent texts are the same text then.
+QString decomposed(std::string_view text)
 {
-    constexpr auto form = QString::NormalizationForm_C;
-    return one == other || one.toString().normalized(form) == other.toString().normalized(form);
+    const auto decoded = QString::fromUtf8(text.data(), qsizetype(text.size()));
+    return decoded.normalized(QString::NormalizationForm_D);
+}
+
+bool isBoundary(const QString& text, qsizetype position)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(position);
+    return finder.isAtBoundary();
 }
 
 }
 
-std::string_view NSString::firstCharacter(std::string_view text)
+bool NSString::hasPrefix(std::string_view text, std::string_view prefix)
 {
-    const QString decoded = decodedText(text);
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, decoded);
-    return text.substr(0, encodedSize(QStringView(decoded).first(boundaries.toNextBoundary())));
+    if (!isText(text) || !isText(prefix))
+        return text.starts_with(prefix);
+    const QString whole = decomposed(text);
+    const QString start = decomposed(prefix);
+    return whole.startsWith(start) && isBoundary(whole, start.size());
 }
 
-std::string_view NSString::lastCharacter(std::string_view text)
+bool NSString::hasSuffix(std::string_view text, std::string_view suffix)
 {
-    const QString decoded = decodedText(text);
-    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, decoded);
-    boundaries.toEnd();
-    return text.substr(encodedSize(QStringView(decoded).first(boundaries.toPreviousBoundary())));
-}
-
-std::optional<std::size_t> NSString::rangeOfString(std::string_view text, std::string_view searched)
-{
-    const QString decoded = decodedText(text);
-    const QString decodedSearched = decodedText(searched);
-    const std::vector<QStringView> characters = charactersOf(decoded);
-    const std::vector<QStringView> sought = charactersOf(decodedSearched);
-    const auto found = std::search(
-        characters.begin(), characters.end(), sought.begin(), sought.end(), areEquivalent);
-    if (sought.empty() || found == characters.end())
-        return std::nullopt;
-    const QStringView before(decoded.constData(), found->data());
-    return encodedSize(before);
+    if (!isText(text) || !isText(suffix))
+        return text.ends_with(suffix);
+    const QString whole = decomposed(text);
+    const QString end = decomposed(suffix);
+    return whole.endsWith(end) && isBoundary(whole, whole.size() - end.size());
 }

@@ -23,5 +23,5 @@ void NSThread::sleepForTimeInterval(double seconds)
     }
     QEventLoop loop;
     QTimer::singleShot(int(interval.count()), Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
 }

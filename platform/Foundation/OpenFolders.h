@@ -1,47 +1,58 @@
 #pragma once
 
 #include "FileDescriptor.h"
-#include "Place.h"
 
-#include <deque>
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
-// Finds items relative to open folders. The folders on the way to an item stay open for the next
-// one, which as a rule lies nearby: then the depth of a tree costs nothing. One thread at a time.
+// An item, which need not be there: a name in an open folder, which stays the same folder whatever
+// happens to its path meanwhile. The descriptor is someone else's; AT_FDCWD with a path will do.
+struct Item {
+    int folder;
+    std::string name;
+};
+
+// Finds items by their paths. The folders on the way to one stay open for the next, which as a rule
+// lies nearby: then the depth of a tree costs nothing. One thread at a time. Throws a
+// std::system_error.
 class OpenFolders {
 public:
-    // Paths are followed as the system does it, through links and from one volume to the next.
-    OpenFolders() = default;
+    // How a path is followed: as the system does it; or never out of the folder where it begins,
+    // through no link and into no other volume.
+    enum class Way { anywhere, beneath };
 
-    // Paths begin with `topPath`, that of `top`, and stay beneath it, whoever moves or links what
-    // meanwhile: a link on the way is errc::too_many_symbolic_link_levels, a mount point
-    // errc::cross_device_link.
-    OpenFolders(FileDescriptor top, const std::string& topPath);
+    // Paths begin with `path`, that of `folder`, which ends in "/".
+    OpenFolders(FileDescriptor folder, const std::string& path, Way way);
 
-    enum class MissingFolders { fail, create };
+    // Paths begin and lead anywhere.
+    OpenFolders();
 
-    // Answers where the item at `path` is to be looked for; a path that ends in "/" is that of the
-    // folder itself. Valid until the next call.
-    std::error_code find(
-        const std::string& path, Place& place, MissingFolders missing = MissingFolders::fail);
+    // Where the item at `path` is to be looked for, until the next call; a path that ends in "/" is
+    // that of the folder itself. The folder is -1 where opening one on the way fails with one of
+    // the errors that are expected.
+    Item find(const std::string& path, std::initializer_list<int> expected = {});
 
-    const FileDescriptor& top() const { return m_top; }
+    // Of the folder in which all paths begin.
+    int top() const { return m_folders.front().descriptor.number(); }
 
 private:
     struct Folder {
-        std::size_t end; // of its path in m_path
+        std::string path;
         FileDescriptor descriptor;
     };
 
-    int current() const;
-    std::size_t reached() const { return m_folders.empty() ? m_start : m_folders.back().end; }
-    void leave(const std::string& path);
-    std::error_code enter(const std::string& path, MissingFolders missing);
-    std::error_code step(const std::string& name, std::size_t end, MissingFolders missing);
-    FileDescriptor open(const std::string& name) const;
-
-    const FileDescriptor m_top {}; // not open where paths may lead anywhere
-    const std::size_t m_start = 0; // in a path, of what is followed
-    std::string m_path; // to the last of the folders
-    std::deque<Folder> m_folders; // each but the first lies in the one before it
+    const Way m_way;
+    std::vector<Folder> m_folders; // the first always; then each lies in the one before it
 };
+
+// For such flags as open() takes. Answers none for an error that is expected.
+FileDescriptor openFolder(const Item& folder, std::uint64_t flags, OpenFolders::Way way,
+    std::initializer_list<int> expected = {});
+
+// The names in a folder, without "." and "..", in the file system's order.
+std::vector<std::string> namesIn(const Item& folder);
+
+// Where a link leads, as it stands in it; none for what is no link, or not there.
+std::optional<std::string> readLink(const Item& link);

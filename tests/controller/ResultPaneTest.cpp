@@ -1,22 +1,13 @@
+#include "HeightConstraintQt.h"
 #include "WindowReport.h"
-#include "fakes/NSProcessInfoFake.h"
-#include "fakes/NSThreadFake.h"
-#include "support/LogFile.h"
-#include "support/MainLoop.h"
-#include "support/Screen.h"
 #include "support/TestWindow.h"
 
-#include <AppKit/NSButton.h>
 #include <AppKit/NSLayoutConstraint.h>
-#include <AppKit/NSProgressIndicator.h>
 #include <AppKit/NSTextField.h>
 
-#include <QSize>
+#include <QScreen>
 
-#include <gtest/gtest.h>
 #include <thread>
-
-using Lines = std::vector<std::string>;
 
 namespace {
 
@@ -24,25 +15,27 @@ namespace {
 class Pane : public testing::Test {
 protected:
     Pane()
+        : controller(*window.controller)
     {
-        EXPECT_TRUE(runMainLoopUntil([this] { return isPaneOpen(controller); }));
+        EXPECT_TRUE(window.awaitPane());
         clearLog();
     }
 
-    CGFloat position() const { return controller.resultText->visibleRect().origin.y; }
-
-    void showLines(int count) const
+    void showLines() const
     {
-        for (int i = 1; i <= count; ++i)
+        for (int i = 1; i <= 100; ++i)
             controller.showMessage(
                 "line " + std::to_string(i) + ", which is cut where the window is narrow");
     }
+    void scrollUp(int rows) const
+    {
+        const CGFloat row = window.text.fontMetrics().lineSpacing();
+        const CGFloat position = controller.resultText->visibleRect().origin.y;
+        controller.resultText->scrollPoint({ 0, position - rows * row });
+    }
 
-    struct Options {
-        Options() { setArguments({ "me" }); }
-    } options;
-    TestWindow window;
-    ViewController& controller = *window.controller;
+    const TestWindow window;
+    ViewController& controller;
 };
 
 }
@@ -52,118 +45,149 @@ TEST_F(Pane, collectsMessagesAndLogsThem)
     controller.resultText->setStringValue("");
     for (const char* const message : { "first", "", "two\nlines", "not \xFF UTF-8" })
         controller.showMessage(message);
-    EXPECT_EQ(controller.resultText->stringValue(), "first\n\ntwo\nlines\nnot \xFF UTF-8\n");
-    EXPECT_EQ(shownText(), "first\n\ntwo\nlines\nnot \uFFFD UTF-8");
+    EXPECT_EQ(window.text.toPlainText(), "first\n\ntwo\nlines\nnot \uFFFD UTF-8");
     EXPECT_EQ(readLog(), (Lines { "d first", "d ", "d two\\nlines", "d not \xFF UTF-8" }));
 }
 
 TEST_F(Pane, showsTheWholeEndInEverySize)
 {
-    showLines(100);
+    showLines();
     controller.showMessage("the end of “" + std::string(300, 'x') + "” failed");
-    for (const QSize size : { QSize(520, 400), { 1600, 1100 }, { 400, 380 }, { 700, 500 } }) {
-        resizeWindow(size.width(), size.height());
-        runMainLoopUntil([] { return lastShownRow().ends_with("” failed"); });
-        EXPECT_TRUE(lastShownRow().ends_with("” failed")) << size.width() << ": " << lastShownRow();
+    scrollUp(5);
+    ASSERT_FALSE(window.lastRow().ends_with("” failed"));
+    for (const QSize size :
+        { QSize(520, 600), { 520, 400 }, { 1600, 1100 }, { 400, 380 }, { 700, 500 } }) {
+        window.resize(size.width(), size.height());
+        EXPECT_TRUE(window.lastRow().ends_with("” failed")) << size.width() << window.lastRow();
     }
+}
+
+TEST_F(Pane, aMessageIsFollowedFromLessThanTwentyPointsFromTheEnd)
+{
+    showLines();
+    controller.showMessage("followed");
+    EXPECT_EQ(window.lastRow(), "followed");
+    scrollUp(1);
+    std::string first = window.firstRow();
+    controller.showMessage("followed from a row above");
+    EXPECT_NE(window.firstRow(), first);
+    scrollUp(2);
+    first = window.firstRow();
+    controller.showMessage("not followed");
+    EXPECT_EQ(window.firstRow(), first);
+    controller.showResult();
+    EXPECT_EQ(window.lastRow(), "not followed");
 }
 
 TEST_F(Pane, aViewThatWasScrolledAwayStaysThere)
 {
-    resizeWindow(900, 500);
-    showLines(100);
+    window.resize(900, 500);
+    showLines();
     for (const bool byKey : { false, true }) {
         if (byKey)
-            pressInText(Qt::Key_PageUp);
+            QTest::keyClick(&window.text, Qt::Key_PageUp);
         else
-            controller.resultText->scrollPoint({ 0, position() / 2 });
-        const std::string first = firstShownRow();
+            scrollUp(60);
+        const std::string first = window.firstRow();
         ASSERT_TRUE(first.starts_with("line "));
         ASSERT_FALSE(first.starts_with("line 1,"));
         for (const QSize size : { QSize(900, 700), { 400, 380 }, { 900, 500 } }) {
-            resizeWindow(size.width(), size.height());
-            runMainLoopUntil([] { return false; }, 100);
-            EXPECT_TRUE(first.starts_with(firstShownRow())) << firstShownRow() << " of " << first;
+            window.resize(size.width(), size.height());
+            EXPECT_TRUE(first.starts_with(window.firstRow())) << window.firstRow() << first;
         }
-        controller.showMessage("not followed");
-        EXPECT_EQ(firstShownRow(), first);
     }
-    controller.showResult();
-    EXPECT_EQ(lastShownRow(), "not followed");
 }
 
-TEST_F(Pane, theWindowShrinksAndGrowsWithIt)
+TEST_F(Pane, fitsTheScreenWhateverTheWindowWasBefore)
 {
-    runMainLoopUntil([] { return false; }, 100); // for the window to follow the pane's last step
-    const auto windowHeight = [&] { return controller.view()->bounds().size.height; };
-    const CGFloat whole = windowHeight();
+    const int screen = window.window->screen()->availableGeometry().height();
+    for (const bool isAnimated : { false, true }) {
+        window.resize(520, 2 * screen);
+        ASSERT_GT(window.window->height(), screen);
+        const auto constraint = controller.resultPainViewHeightConstraint.lock();
+        isAnimated ? constraint->animator().setConstant(3000) : constraint->setConstant(3000);
+        EXPECT_TRUE(runMainLoopUntil([&] { return !window.isOpening(); }));
+        EXPECT_LE(window.window->height(), screen);
+        EXPECT_GT(window.window->height(), screen / 2);
+    }
+}
+
+TEST(Room, isWhatTheScreenHasAndTheFrameLeaves)
+{
+    const QRect screen(0, 10, 320, 240);
+    struct Case {
+        QMargins frame;
+        int top = 0;
+        int wish = 0;
+        bool canMove = true;
+        RoomQt room;
+    };
+    for (const Case& c : {
+             Case { { 1, 20, 1, 5 }, 50, 100, true, { 30, 100 } },
+             Case { { 1, 20, 1, 5 }, 100, 100, true, { 36, 100 } },
+             Case { { 1, 20, 1, 5 }, 100, 200, true, { 10, 126 } },
+             Case { { 1, 20, 1, 5 }, 100, 200, false, { 73, 63 } },
+             Case { {}, 100, 200, true, { 10, 151 } },
+             Case { { 0, 0, -520, -329 }, 36, 240, true, { 10, 151 } },
+             Case { { 1, 200, 1, 5 }, 300, 100, true, { 10, 0 } },
+         }) {
+        const RoomQt room = roomOn(screen, c.frame, c.top, 89, c.wish, c.canMove);
+        EXPECT_EQ(room.top, c.room.top) << c.wish;
+        EXPECT_EQ(room.height, c.room.height) << c.wish;
+    }
+}
+
+TEST_F(Pane, isUncoveredByTheWindowsGrowthOverHalfASecond)
+{
+    const int whole = window.window->height();
     controller.resultPainViewHeightConstraint->setConstant(0);
-    EXPECT_TRUE(runMainLoopUntil(
-        [&] { return windowHeight() == whole - controller.m_resultPainViewHeight; }));
+    const int least = window.window->height();
+    EXPECT_GE(whole, least + controller.m_resultPainViewHeight);
     controller.showResult();
-    EXPECT_TRUE(runMainLoopUntil([&] { return windowHeight() == whole; }));
+    EXPECT_EQ(window.animation.duration(), 500);
+    EXPECT_GT(window.text.mapTo(window.window.get(), window.text.rect().bottomRight()).y(), least);
+    EXPECT_TRUE(runMainLoopUntil([&] { return window.window->height() > least + 20; }));
+    EXPECT_LT(window.window->height(), whole);
+    EXPECT_TRUE(runMainLoopUntil([&] { return window.window->height() == whole; }));
 }
 
 TEST(PaneAlone, keysCountOnlyOnceItIsOpen)
 {
-    setArguments({ "me" });
-    for (const int key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space }) {
+    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space }) {
         const TestWindow opening;
-        const auto closes = [key] {
-            press(key);
-            return !isWindowOnScreen();
-        };
-        EXPECT_FALSE(runMainLoopUntil(closes, 250)); // it takes twice as long
-        EXPECT_TRUE(runMainLoopUntil(closes));
-        EXPECT_EQ(opening.controller->resultPainView->bounds().size.height, 240);
+        EXPECT_TRUE(opening.isOpening());
+        EXPECT_TRUE(runMainLoopUntil([&] {
+            const bool isEarly = opening.isOpening();
+            opening.press(key);
+            return opening.window->isHidden() == isEarly || !isEarly;
+        }));
+        EXPECT_FALSE(opening.isOpening());
+        EXPECT_TRUE(opening.window->isHidden());
     }
-}
-
-TEST_F(Pane, stepsTheBar)
-{
-    controller.setProgress(0, 4);
-    EXPECT_EQ(controller.progressIndicator->doubleValue(), 0.25);
-    controller.setProgress(3, 4);
-    EXPECT_EQ(controller.progressIndicator->doubleValue(), 1.0);
-    controller.progressIndicator->setDoubleValue(7);
-    EXPECT_EQ(controller.progressIndicator->doubleValue(), 1.0);
 }
 
 TEST_F(Pane, aReportIsInTheWindowWhenItReturns)
 {
-    const auto report
-        = std::make_shared<WindowReport>(window.controller, ViewController::Mode::uninstall);
+    WindowReport report(window.controller, ViewController::Mode::uninstall);
     std::thread task([&] {
-        report->showMessage("from a task");
+        report.showMessage("from a task");
         EXPECT_EQ(readLog(), Lines { "d from a task" });
-        report->setProgress(1, 4);
-        EXPECT_EQ(controller.progressIndicator->doubleValue(), 0.5);
-        report->showFailure(NSError("why"));
+        report.setProgress(1, 4);
+        EXPECT_EQ(window.progress(), 0.5);
+        report.showFailure(NSError("why"));
     });
-    EXPECT_TRUE(runMainLoopUntil([] { return windowTitle() == "quillbarn could not be removed"; }));
+    EXPECT_TRUE(
+        runMainLoopUntil([&] { return window.title() == "quillbarn could not be removed"; }));
     task.join();
-    EXPECT_EQ(buttonDescription(), "why");
-}
-
-TEST(PaneAlone, aReportOfTheEndClosesTheWindow)
-{
-    setArguments({ "me" });
-    for (const auto end : { &TaskReport::finish, &TaskReport::closeWindow }) {
-        const TestWindow window;
-        WindowReport report(window.controller, ViewController::Mode::install);
-        (report.*end)();
-        EXPECT_TRUE(runMainLoopUntil([] { return !isWindowOnScreen(); }));
-    }
+    EXPECT_EQ(window.help(), "why");
 }
 
 TEST(PaneAlone, isOpenFromTheStartInATestWhichWaitsAtTheEnd)
 {
-    onPause([](double) {});
-    const TestWindow test(Start::test); // a run of its own
-    const ViewController& tested = *test.controller;
-    EXPECT_TRUE(isPaneShown());
-    EXPECT_TRUE(runMainLoopUntil([&] { return tested.resultButton->isEnabled(); }));
-    EXPECT_TRUE(isWindowOnScreen());
-    press(Qt::Key_Return);
-    EXPECT_FALSE(isWindowOnScreen());
+    const TestWindow test({ "me" }, true); // a run of its own
+    EXPECT_TRUE(test.text.isVisible());
+    EXPECT_TRUE(test.awaitPane());
+    EXPECT_TRUE(test.window->isVisible());
+    test.press(Qt::Key_Return);
+    EXPECT_TRUE(test.window->isHidden());
 }

@@ -1,206 +1,127 @@
-#include "AppDelegate.h"
-#include "fakes/NSProcessInfoFake.h"
-#include "fakes/NSThreadFake.h"
-#include "support/LogFile.h"
-#include "support/MainLoop.h"
-#include "support/Screen.h"
 #include "support/TestWindow.h"
 #include "support/Tree.h"
 
-#include <AppKit/NSApplication.h>
-#include <AppKit/NSButton.h>
-#include <AppKit/NSLayoutConstraint.h>
-#include <AppKit/NSProgressIndicator.h>
 #include <AppKit/NSScrollView.h>
 #include <AppKit/NSTextField.h>
 
-#include <gtest/gtest.h>
 #include <pthread.h>
 #include <thread>
-
-using Lines = std::vector<std::string>;
 
 namespace {
 
 struct ModeRun {
-    const char* option;
+    Lines arguments;
     double bar;
-    const char* title;
-    const char* titleAtEnd;
+    std::string title; // as long as it runs
+    std::string titleAtEnd; // the window's last one, whether it has closed or waits
+    std::string help; // none: the window closes by itself
     Lines log;
 };
 
 }
 
-TEST(StartUp, theWindowShowsWhatEachModeDoesAndHowItEnded)
+TEST(StartUp, theWindowShowsWhatARunDoesAndHowItEnded)
 {
-    onPause([](double) {});
-    for (const ModeRun& run : {
-             ModeRun { "-install", 0, "Installing quillbarn", "quillbarn could not be installed",
-                 { "n installer start", "d install /nowhere/", "n install bundle", "d ",
-                     "d The folder “/nowhere/quillbarn.app/” couldn’t be opened because it "
-                     "doesn’t exist (No such file or directory)." } },
-             ModeRun { "-uninstall", 0, "Removing quillbarn", "Removing quillbarn",
-                 { "n installer start", "d uninstall ", "n uninstall bundle", "d completed" } },
-             ModeRun { "-install2", 1, "Ejecting the disk image", "Ejecting the disk image",
-                 { "n installer start", "d unmount /nowhere/", "n unmount /nowhere/",
-                     "d unmount /nowhere/", "d unmount succeeded" } },
-         }) {
-        SCOPED_TRACE(run.option);
-        clearLog();
-        setArguments({ "me", run.option, "/nowhere/" });
-        const TestWindow window;
+    const std::string missing
+        = "The folder “/nowhere/quillbarn.app/” couldn’t be opened because it "
+          "doesn’t exist (No such file or directory).";
+    for (const ModeRun& run :
+        {
+            ModeRun { { "me", "-install", "/nowhere/" }, 0, "Installing quillbarn",
+                "quillbarn could not be installed", missing,
+                { "d install /nowhere/", "n install bundle", "d ", "d " + missing } },
+            ModeRun { { "me", "-uninstall", "/nowhere/" }, 0, "Removing quillbarn",
+                "Removing quillbarn", "", { "d uninstall ", "n uninstall bundle", "d completed" } },
+            ModeRun { { "me", "-install2", "/nowhere/" }, 1, "Ejecting the disk image",
+                "Ejecting the disk image", "",
+                { "d unmount /nowhere/", "n unmount /nowhere/", "d unmount /nowhere/",
+                    "d unmount succeeded" } },
+            ModeRun { { "me" }, 0, "quillbarn installer", "quillbarn installer", "invalid options",
+                { "d invalid options" } },
+        }) {
+        SCOPED_TRACE(run.title);
+        const TestWindow window(run.arguments);
         const ViewController& controller = *window.controller;
-        EXPECT_EQ(windowTitle(), run.title);
-        EXPECT_EQ(controller.progressIndicator->doubleValue(), run.bar);
-        EXPECT_EQ(controller.resultText->stringValue(), "");
-        EXPECT_EQ(controller.resultTextScrollView->documentView(), controller.resultText.get());
-        EXPECT_FALSE(controller.resultButton->isEnabled());
-        EXPECT_FALSE(isPaneShown());
+        EXPECT_EQ(window.title(), run.title);
+        EXPECT_EQ(window.progress(), run.bar);
+        EXPECT_EQ(window.bar.maximum(), 1000);
         EXPECT_EQ(controller.m_resultPainViewHeight, 240);
+        EXPECT_EQ(controller.resultTextScrollView->documentView(), controller.resultText.lock());
+        EXPECT_EQ(window.button.isEnabled(), run.arguments.size() == 1);
+        EXPECT_EQ(window.text.isVisible(), run.arguments.size() == 1);
 
-        const bool fails = run.title != std::string(run.titleAtEnd);
-        EXPECT_TRUE(
-            runMainLoopUntil([&] { return fails ? isPaneOpen(controller) : !isWindowOnScreen(); }));
-        EXPECT_EQ(windowTitle(), run.titleAtEnd);
-        EXPECT_EQ(controller.resultButton->isEnabled(), fails);
-        EXPECT_EQ(buttonDescription(), fails ? run.log.back().substr(2) : "");
-        EXPECT_EQ(readLog(), run.log);
+        EXPECT_TRUE(run.help.empty() ? window.awaitEnd() : window.awaitPane());
+        EXPECT_EQ(window.title(), run.titleAtEnd);
+        EXPECT_EQ(window.help(), run.help);
+        Lines log = run.log;
+        log.insert(log.begin(), "n installer start");
+        EXPECT_EQ(readLog(), log);
+        if (!run.help.empty()) {
+            EXPECT_TRUE(run.help.ends_with(window.lastRow())) << window.lastRow();
+            window.button.click();
+        }
+        EXPECT_TRUE(window.window->isHidden());
     }
 }
 
 TEST(StartUp, aTestRunLeavesTheBundleAloneAndTheWindowOpenAfterARemoval)
 {
-    onPause([](double) {});
     writeFile("/tmp/source/quillbarn.app/new");
     writeFile("/Applications/quillbarn.app/old");
     for (const bool isRemoval : { true, false }) {
-        setArguments({ "me" });
         const TestWindow window;
         ViewController& controller = *window.controller;
         controller.m_test = true;
-        controller.resultButton->setEnabled(false);
+        window.button.setEnabled(false);
         clearLog();
         std::thread task([&] {
             isRemoval ? controller.uninstallBundle() : controller.installBundle("/tmp/source/");
         });
         EXPECT_TRUE(runMainLoopUntil(
-            [&] { return controller.resultButton->isEnabled() || !isWindowOnScreen(); }));
+            [&] { return window.button.isEnabled() || window.window->isHidden(); }));
         task.join();
-        EXPECT_EQ(isWindowOnScreen(), isRemoval);
+        EXPECT_EQ(window.window->isVisible(), isRemoval);
         EXPECT_EQ(readLog().back(), "d completed");
         EXPECT_EQ(readTree("/Applications/quillbarn.app").count("old"), 1u);
     }
-    removeTree("/Applications/quillbarn.app");
+    std::filesystem::remove_all("/Applications/quillbarn.app");
 }
 
-TEST(StartUp, aRemovalThatFailsSaysSoInTheTitle)
+TEST(StartUp, aRemovalThatCannotBeDoneOrStartedSaysSoInTheTitle)
 {
-    writeFile("/Applications/quillbarn.app", "a file");
-    setArguments({ "me", "-uninstall" });
-    const TestWindow window;
-    EXPECT_TRUE(runMainLoopUntil([&] { return isPaneOpen(*window.controller); }));
-    EXPECT_EQ(windowTitle(), "quillbarn could not be removed");
-    removeTree("/Applications/quillbarn.app");
-}
-
-TEST(StartUp, withoutAThreadTheRunFailsAndSaysSo)
-{
-    clearLog();
-    setArguments({ "me", "-uninstall" });
     pthread_attr_t usual;
     pthread_getattr_default_np(&usual);
     pthread_attr_t tooLarge = usual;
     pthread_attr_setstacksize(&tooLarge, std::size_t(1) << 50);
-    pthread_setattr_default_np(&tooLarge);
-    const TestWindow window;
-    pthread_setattr_default_np(&usual);
-    EXPECT_TRUE(runMainLoopUntil([&] { return isPaneOpen(*window.controller); }));
-    EXPECT_EQ(windowTitle(), "quillbarn could not be removed");
-    EXPECT_EQ(readLog(),
-        (Lines { "n installer start", "d uninstall ", "d ",
-            "d The work couldn’t be started because the system refused (Resource temporarily "
-            "unavailable)." }));
+    writeFile("/Applications/quillbarn.app", "a file");
+    for (const bool hasThread : { true, false }) {
+        pthread_setattr_default_np(hasThread ? &usual : &tooLarge);
+        const TestWindow window({ "me", "-uninstall" });
+        pthread_setattr_default_np(&usual);
+        EXPECT_TRUE(window.awaitPane());
+        EXPECT_EQ(window.title(), "quillbarn could not be removed");
+        EXPECT_EQ(window.help()
+                == "The work couldn’t be started because the system refused "
+                   "(Resource temporarily unavailable).",
+            !hasThread);
+    }
+    std::filesystem::remove_all("/Applications/quillbarn.app");
 }
 
-TEST(StartUp, withoutAnOptionThePaneOpensAndWaits)
+TEST(ViewController, itsOutletsEndWithTheWindow)
 {
-    clearLog();
-    setArguments({ "me" });
-    const TestWindow window;
-    const ViewController& controller = *window.controller;
-    EXPECT_EQ(readLog(), (Lines { "n installer start", "d invalid options" }));
-    EXPECT_EQ(controller.resultText->stringValue(), "invalid options\n");
-    EXPECT_EQ(controller.progressIndicator->doubleValue(), 0);
-    EXPECT_EQ(buttonDescription(), "invalid options");
-    EXPECT_TRUE(controller.resultButton->isEnabled());
-    EXPECT_TRUE(runMainLoopUntil([&] { return isPaneOpen(controller); }));
-    EXPECT_TRUE(isWindowOnScreen());
-    controller.resultButton->performClick();
-    EXPECT_FALSE(isWindowOnScreen());
-}
-
-namespace {
-
-struct Outlet {
-    const char* name;
-    std::function<void(ViewController&)> disconnect;
-};
-
-class MissingOutlet : public testing::TestWithParam<Outlet> {};
-
-}
-
-TEST_P(MissingOutlet, stopsTheRunInOrder)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto start = [] {
-        NSApplication::sharedApplication().setDelegate(std::make_shared<AppDelegate>());
-        const TestWindow window;
-        GetParam().disconnect(*window.controller);
-        clearLog();
-        window.controller->viewDidLoad();
+    const auto outlets = [](const ViewController& c) {
+        return std::array { c.progressIndicator.expired(), c.resultPainView.expired(),
+            c.resultPainViewHeightConstraint.expired(), c.resultTextScrollView.expired(),
+            c.resultText.expired(), c.resultButton.expired(), c.view() == nullptr };
     };
-    EXPECT_EXIT(start(), testing::ExitedWithCode(0), "");
-    EXPECT_EQ(readLog(),
-        (Lines { "n installer start", std::string("e outlet not connected: ") + GetParam().name,
-            "n installer exit" }));
-}
-
-INSTANTIATE_TEST_SUITE_P(StartUp, MissingOutlet,
-    testing::Values( //
-        Outlet { "progressIndicator", [](auto& c) { c.progressIndicator = nullptr; } },
-        Outlet { "resultPainView", [](auto& c) { c.resultPainView = nullptr; } },
-        Outlet { "resultPainViewHeightConstraint",
-            [](auto& c) { c.resultPainViewHeightConstraint = nullptr; } },
-        Outlet { "resultTextScrollView", [](auto& c) { c.resultTextScrollView = nullptr; } },
-        Outlet { "resultText", [](auto& c) { c.resultText = nullptr; } },
-        Outlet { "resultButton", [](auto& c) { c.resultButton = nullptr; } }));
-
-TEST(ViewController, startsEmptyAndItsOutletsEndWithTheWindow)
-{
-    const auto expectParts = [](const ViewController& controller, bool areThere) {
-        EXPECT_EQ(controller.progressIndicator.get() != nullptr, areThere);
-        EXPECT_EQ(controller.resultPainView.get() != nullptr, areThere);
-        EXPECT_EQ(controller.resultPainViewHeightConstraint.get() != nullptr, areThere);
-        EXPECT_EQ(controller.resultTextScrollView.get() != nullptr, areThere);
-        EXPECT_EQ(controller.resultText.get() != nullptr, areThere);
-        EXPECT_EQ(controller.resultButton.get() != nullptr, areThere);
-        EXPECT_EQ(controller.view() != nullptr, areThere);
-    };
-    const auto controller = ViewController::initWithNibName("MainInterface", nullptr);
-    expectParts(*controller, false);
-    EXPECT_EQ(controller->bundleDir, "quillbarn.app");
-    EXPECT_EQ(controller->applicationDir, "/Applications/");
-    EXPECT_EQ(controller->m_resultPainViewHeight, 0);
-    EXPECT_EQ(controller->m_ejectLoop, 0);
-    EXPECT_FALSE(controller->m_test);
-    EXPECT_EQ(ViewController::initWithCoder(NSCoder(nullptr)), nullptr);
-
-    setArguments({ "me" });
+    std::array<bool, 7> gone {};
     auto window = std::make_unique<TestWindow>();
     const auto kept = window->controller;
-    expectParts(*kept, true);
+    EXPECT_EQ(outlets(*kept), gone);
     window.reset();
-    expectParts(*kept, false);
+    gone.fill(true);
+    EXPECT_EQ(outlets(*kept), gone);
+    EXPECT_EQ(outlets(*ViewController::initWithNibName("MainInterface", nullptr)), gone);
+    EXPECT_EQ(ViewController::initWithCoder({}), nullptr);
 }

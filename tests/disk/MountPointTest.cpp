@@ -1,5 +1,5 @@
 #include "MountPoint.h"
-#include "fakes/MountedVolumesFake.h"
+#include "fakes/FoundationFake.h"
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ TEST(MountPoint, isThatOfTheFirstVolumeWhosePathBeginsThePath)
             Case { { "/\xFF" }, "/\xFF/x", "/\xFF" },
             Case { { "/\xFF" }, "/\xFE/x", "" },
         }) {
-        setMountedVolumes(c.volumes);
+        foundation.mountPoints = c.volumes;
         const auto mountPoint = getDMGMountPointURL(c.path);
         EXPECT_EQ(mountPoint ? mountPoint->path() : "", c.mountPoint) << c.path;
     }

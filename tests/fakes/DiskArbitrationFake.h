@@ -2,21 +2,22 @@
 
 #include <DiskArbitration/DADisk.h>
 
+#include <atomic>
 #include <functional>
-#include <string>
-#include <vector>
 
-// A disk service that does what the test says, and writes down what is asked of it.
+// A disk service that does what the test says.
 struct DiskArbitrationFake {
     bool hasSession = true;
     bool hasDisk = true;
     std::function<bool()> unmount = [] { return true; }; // whether it is granted
     std::function<bool()> eject = [] { return true; };
 
-    std::vector<std::string> calls = {};
-    DADiskUnmountCallback lastCallback = nullptr;
+    bool isInCallback = false;
 };
 
 // The one that answers. A request is answered by the main thread's loop, if the session is
 // scheduled there.
-DiskArbitrationFake& diskArbitration();
+inline DiskArbitrationFake diskArbitration;
+
+// How many sessions there are, and schedules of theirs. A disk holds its session.
+inline std::atomic<int> heldSessions;

@@ -1,9 +1,8 @@
 // Every file call of an install, a replacement and an uninstall fails in turn, in each of the ways
 // it may. The run ends in order all the same, tells the truth, and leaves no half of anything.
 
-#include "InstallTask.h"
+#include "BundleTask.h"
 #include "Logger.h"
-#include "UninstallTask.h"
 #include "faults/FaultySystem.h"
 #include "support/Tree.h"
 
@@ -14,8 +13,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <regex>
+#include <iterator>
 #include <set>
+#include <sstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -30,20 +30,22 @@ const std::string source = others + "source/";
 const std::string bundle = "quillbarn.app/";
 const std::string installed = "/Applications/" + bundle;
 const std::string logFile = "/tmp/quillbarninstaller.log";
+constexpr uid_t someUser = 4711;
 constexpr const char* attributeName = "security.note"; // a volume in memory keeps it, too
 
 struct Scenario {
     const char* name;
     bool isInstalled;
     bool installs;
-    bool isOnSimpleVolume;
+    Volume volume;
 };
 
 constexpr std::array scenarios {
-    Scenario { "install", false, true, false },
-    Scenario { "install on a simple volume", false, true, true },
-    Scenario { "replacement", true, true, false },
-    Scenario { "uninstall", true, false, false },
+    Scenario { "install", false, true, Volume::complete },
+    Scenario { "install on a plain volume", false, true, Volume::plain },
+    Scenario { "install on a simple volume", false, true, Volume::simple },
+    Scenario { "replacement", true, true, Volume::complete },
+    Scenario { "uninstall", true, false, Volume::complete },
 };
 
 // The lines reach the log as they do beside a window.
@@ -72,9 +74,14 @@ void drawSource()
     makeLink(top + "link", "file");
     makeLink(top + "folder/link", "within");
     makeLink(top + "dangling", "nowhere");
-    mkfifo((top + "pipe").c_str(), 0640);
     fs::permissions(top + "file", fs::perms(0751));
+    for (const char* const name : { "file", "link" })
+        if (lchown((top + name).c_str(), someUser, someUser) != 0)
+            throw std::system_error(errno, std::generic_category(), "lchown");
     if (setxattr((top + "file").c_str(), attributeName, "kept", 4, 0) != 0)
+        throw std::system_error(errno, std::generic_category(), "setxattr");
+    const std::string list = accessControlList(someUser); // for what is made in it
+    if (setxattr("/Applications", "system.posix_acl_default", list.data(), list.size(), 0) != 0)
         throw std::system_error(errno, std::generic_category(), "setxattr");
     writeFile(others + "letter", "dear");
 }
@@ -83,13 +90,13 @@ void drawInstalled()
 {
     writeFile(installed + "file", "old");
     writeFile(installed + "old/folder/file", "old");
-    makeFolder(installed + "empty");
+    fs::create_directories(installed + "empty");
     makeLink(installed + "link", "empty");
     makeLink(installed + "letter", others + "letter");
     makeLink(installed + "old/dangling", "nowhere");
 }
 
-using Entry = std::array<std::string, 4>; // by part
+using Entry = std::array<std::string, 5>; // by part
 using Entries = std::map<std::string, Entry>;
 
 Entry describe(const fs::directory_entry& found)
@@ -99,11 +106,10 @@ Entry describe(const fs::directory_entry& found)
     std::array<char, 9> value {};
     lstat(path.c_str(), &status);
     lgetxattr(path.c_str(), attributeName, value.data(), value.size() - 1);
-    const std::string inside = found.is_symlink() ? "-> " + fs::read_symlink(path).string()
-        : found.is_regular_file()                 ? readFile(path)
-                                                  : "pipe";
+    const std::string inside
+        = found.is_symlink() ? "-> " + fs::read_symlink(path).string() : readFile(path);
     const auto [seconds, nanoseconds] = status.st_mtim;
-    return { inside, std::to_string(status.st_mode),
+    return { inside, std::to_string(status.st_mode), std::to_string(status.st_uid),
         std::to_string(seconds) + "." + std::to_string(nanoseconds), value.data() };
 }
 
@@ -155,10 +161,17 @@ std::string reasonOf(const Fault& fault)
 {
     const std::string_view call = fault.call.name;
     if (fault.error == EWOULDBLOCK && call == "flock")
-        return "another installer is at work there";
-    if (fault.error == EPERM && call.starts_with("symlink"))
-        return "the volume has no links";
+        return "another program holds it locked";
     return fault.error == nothing ? "" : strerrordesc_np(fault.error);
+}
+
+std::vector<std::string> linesOf(const std::string& path)
+{
+    std::ifstream file(path);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 // What is wrong after a run, or nothing.
@@ -171,18 +184,22 @@ std::string findProblem(const Scenario& scenario, const Fault& fault, const Disk
     if (entriesOf(others) != disk.others || entriesOf("/Applications/").size() > now.size() + 1)
         return "what is not the bundle's has changed";
 
-    const std::string log = fs::exists(logFile) ? readFile(logFile) : "";
+    const std::vector<std::string> log = linesOf(logFile);
     const bool isOfLog = fault.path.starts_with(logFile);
-    std::smatch told;
-    if (std::regex_search(
-            log, told, std::regex(" d \n.* d (.*“/.* because .*)\n.* n installer exit\n$")))
-        return isOfLog           ? "failed for the log"
-            : fault.path.empty() ? "failed without a fault"
-            : told.str(1).find(reasonOf(fault)) == std::string::npos
-            ? "told another reason: " + told.str(1)
-            : "";
-    if (!isOfLog && !std::regex_search(log, std::regex(" d completed\n.* n installer exit\n$")))
-        return "the log tells no end: " + log;
+    const std::size_t end = log.size();
+    if (!isOfLog && (end < 3 || !log[end - 1].ends_with(" n installer exit")))
+        return "the log tells no end";
+    if (end > 3 && log[end - 3].ends_with(" d ")) {
+        const std::string& told = log[end - 2];
+        return isOfLog                                        ? "failed for the log"
+            : fault.path.empty()                              ? "failed without a fault: " + told
+            : fault.error == EINTR                            ? "failed when interrupted"
+            : told.find(" because ") == std::string::npos     ? "told no reason: " + told
+            : told.find(reasonOf(fault)) == std::string::npos ? "told another reason: " + told
+                                                              : "";
+    }
+    if (!isOfLog && !log[end - 2].ends_with(" d completed"))
+        return "neither failed nor completed";
     if (fault.hasLostData && !isOfLog)
         return "completed, with data lost";
     const bool isDone = scenario.installs
@@ -200,10 +217,11 @@ int runAndJudge(const Scenario& scenario, Fault fault)
     const Disk disk;
     runWithFault(fault, [&] {
         LoggedReport report;
+        BundleTask task(report, "/Applications/", "quillbarn.app", DryRun::no);
         if (scenario.installs)
-            InstallTask(report, "/Applications/", "quillbarn.app", DryRun::no).run(source);
+            task.install(source);
         else
-            UninstallTask(report, "/Applications/", "quillbarn.app", DryRun::no).run();
+            task.uninstall();
     });
     sharedLogger().log("installer exit", Logger::LogLevel::normal);
     const std::string problem = findProblem(scenario, fault, disk);
@@ -243,11 +261,28 @@ Count tryCall(const FileCall& call)
     for (const Scenario& scenario : scenarios)
         for (const int error : call.errors)
             for (int step = 1, result = wasMade; result & wasMade; ++step) {
-                result = resultOf(scenario, { call, error, step, scenario.isOnSimpleVolume });
+                result = resultOf(scenario, { call, error, step, scenario.volume });
                 count.tried += result != hasHeld;
                 count.held += result == (hasHeld | wasMade);
             }
     return count;
+}
+
+// A file that somebody has put in the place of a copy meanwhile stays.
+bool keepsWhatIsThere(Volume volume)
+{
+    writeFile(installed + "file", "somebody's");
+    Fault none { fileCalls().front(), EIO, 0, volume };
+    std::string told;
+    runWithFault(none, [&] {
+        try {
+            ConfinedFolder("/Applications/")
+                .copyItemAtPath(source + bundle + "file", installed + "file");
+        } catch (const NSError& error) {
+            told = error.localizedDescription();
+        }
+    });
+    return told.ends_with("(File exists).") && readFile(installed + "file") == "somebody's";
 }
 
 }
@@ -256,19 +291,20 @@ int main()
 try {
     drawSource();
     for (const Scenario& scenario : scenarios)
-        if (resultOf(scenario, { fileCalls().front(), EIO, 0, scenario.isOnSimpleVolume })
-            != hasHeld)
+        if (resultOf(scenario, { fileCalls().front(), EIO, 0, scenario.volume }) != hasHeld)
             return EXIT_FAILURE; // without a fault
-    Count all;
+    bool hasAllHeld = true;
     for (const FileCall& call : fileCalls()) {
         const auto [tried, held] = tryCall(call);
-        std::cout << call.name << ": " << tried << " tried, " << held << " held" << '\n'
-                  << std::flush;
-        all = { all.tried + tried, all.held + held };
+        std::cout << call.name << ": " << tried << " tried, " << held << " held" << std::endl;
+        hasAllHeld &= tried > 0 && held == tried;
     }
-    std::cout << "fault matrix: " << all.tried << " tried, " << all.held << " held" << '\n'
-              << std::flush;
-    return all.tried > 0 && all.held == all.tried ? EXIT_SUCCESS : EXIT_FAILURE;
+    // At the end: what this process has open is nothing to the processes of the others.
+    for (const Volume volume : { Volume::complete, Volume::plain, Volume::simple })
+        if (!keepsWhatIsThere(volume))
+            throw std::runtime_error(
+                "a file was replaced on volume " + std::to_string(int(volume)));
+    return hasAllHeld ? EXIT_SUCCESS : EXIT_FAILURE;
 } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return EXIT_FAILURE;

@@ -6,7 +6,7 @@
 
 constexpr int nothing = 0; // in the place of an error: the call succeeds, and has done nothing
 
-enum Part { content, mode, times, attribute }; // of a file
+enum Part { content, mode, owner, times, attribute }; // of a file
 
 // A call to the system on a file, the places of its descriptor and of its path among its arguments,
 // and the errors it is to fail with.
@@ -21,11 +21,15 @@ struct FileCall {
 
 const std::vector<FileCall>& fileCalls();
 
+// Each lacks what the one before it lacks, and more: nameless files; copying by itself and renaming
+// that refuses to replace.
+enum class Volume { complete, plain, simple };
+
 struct Fault {
     const FileCall& call;
     int error; // `nothing` comes again and again
     int step; // of the calls on the files of the run, from 1
-    bool isOnSimpleVolume; // without nameless files and the newer ways to copy and to rename
+    Volume volume;
 
     // What became of it.
     int calls = 0;

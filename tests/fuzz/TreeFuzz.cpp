@@ -1,5 +1,5 @@
+#include "BundleTask.h"
 #include "Fuzz.h"
-#include "UninstallTask.h"
 #include "fakes/RecordedReport.h"
 
 #include <filesystem>
@@ -15,8 +15,8 @@ static Paths drawTrees(FuzzedDataProvider& draw)
 {
     Paths targets { "..", ".", "nowhere", apps + "bundle", neighbour };
     Paths folders(targets.begin() + 3, targets.end());
-    std::ranges::for_each(folders, removeTree);
-    std::ranges::for_each(folders, makeFolder);
+    std::ranges::for_each(folders, [](const fs::path& path) { fs::remove_all(path); });
+    std::ranges::for_each(folders, [](const fs::path& path) { fs::create_directories(path); });
     const auto oneOf = [&](const Paths& paths) {
         return paths[draw.ConsumeIntegralInRange<std::size_t>(0, paths.size() - 1)];
     };
@@ -28,7 +28,7 @@ static Paths drawTrees(FuzzedDataProvider& draw)
         if (kind == 0)
             writeFile(path);
         else if (kind == 1)
-            makeFolder(folders.emplace_back(path));
+            fs::create_directories(folders.emplace_back(path));
         else
             makeLink(path, oneOf(targets));
         targets.push_back(path);
@@ -61,8 +61,7 @@ void tryOne(FuzzedDataProvider& draw)
     try {
         check(BundleTree::getFiles(apps + "bundle/", "bundle/"), drawn);
         RecordedReport report([] { return ""; });
-        UninstallTask(report, apps, "bundle", DryRun::no)
-            .removeBundle(BundleTree::TopFolder::include, nullptr);
+        BundleTask(report, apps, "bundle", DryRun::no).removeBundle(TopFolder::include, nullptr);
         assert(fs::is_empty(apps));
     } catch (const NSError& error) {
         assert(hasLinks && !error.localizedDescription().empty());

@@ -6,11 +6,13 @@ import shutil
 import subprocess
 import time
 import unittest
+from glob import glob
 
 LOG = "/tmp/quillbarninstaller.log"
 BUNDLE = "/Applications/quillbarn.app"
 SOURCE = "/tmp/source/"
 INSTALLER = ".*(quillbarn|disk image).*"  # its window's title
+GI = "/usr/lib/python3/dist-packages/gi"  # the package python3-gi
 MARGIN = 20  # of the window, beside the bar
 
 # Names of any bytes are text here, as Python has it for paths.
@@ -25,6 +27,14 @@ def await_that(condition, seconds=20, pause=0.005):
             raise TimeoutError
         time.sleep(pause)
     return result
+
+
+def require(*needed):
+    """Skips the tests of a class where a program is missing, or a path, which may be a pattern. In CI
+    that is an error."""
+    for each in needed:
+        if not shutil.which(each) and not glob(each):
+            raise (RuntimeError if os.environ.get("CI") else unittest.SkipTest)(f"there is no {each}")
 
 
 RUNNING = []  # what runs until the machine is gone
@@ -46,6 +56,12 @@ def write(path, content=""):
     os.makedirs(os.path.dirname(path), exist_ok=True)
     with open(path, "w", **BYTES) as file:
         file.write(content)
+
+
+def write_files(count):
+    """To be installed, for long enough."""
+    for number in range(count):
+        write(f"{SOURCE}quillbarn.app/{number}", "x" * 5000)
 
 
 def read(path):
@@ -97,15 +113,16 @@ def mount_memory(test, folder, size):
 class Screen:
     """An X server in memory, with a window manager."""
 
-    def __init__(self, size="800x600"):
+    def __init__(self, *options):
         os.makedirs("/run/user", 0o700, exist_ok=True)
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
         ours, servers = os.pipe()
         self.server = keep_running(
-            "Xvfb", "-displayfd", str(servers), "-noreset", "-screen", "0", size + "x24",
+            "Xvfb", "-displayfd", str(servers), "-noreset", "-screen", "0", "800x600x24",
             pass_fds=[servers], stderr=subprocess.DEVNULL)
         os.close(servers)  # so that the end of a server that couldn't start shows
         self.display = ":" + os.read(ours, 9).decode().strip()
+        self.options = options
         self.window_manager = None
         self._manage_windows()
 
@@ -114,7 +131,7 @@ class Screen:
         finds no display in the moment in which the server says that it is there."""
         while not self.window_manager or self.window_manager.poll() is not None:
             self.window_manager = keep_running(
-                "openbox", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                "openbox", *self.options, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                 env=os.environ | {"DISPLAY": self.display})
             # Or it may forget a window that comes at that moment.
             await_that(lambda: self._xdotool("get_num_desktops") or self.window_manager.poll() is not None)
@@ -127,12 +144,15 @@ class Screen:
     def _find_windows(self, title):
         return self._xdotool("search", "--onlyvisible", "--name", f"^{title}$").split()
 
-    def _give_keyboard(self, window):
+    def has_keyboard(self, window):
+        return self._xdotool("getactivewindow").strip() == window
+
+    def give_keyboard(self, window):
         """As long as it is there. The window manager denies it to a window that comes while somebody
         types, and forgets to give it now and then."""
         def has_keyboard():
             self._manage_windows()
-            if self._xdotool("getactivewindow").strip() == window:
+            if self.has_keyboard(window):
                 return True
             self._xdotool("windowactivate", window)
             return self.size(window) is None
@@ -141,18 +161,22 @@ class Screen:
 
     def press(self, key):
         for window in self._find_windows(INSTALLER):
-            self._give_keyboard(window)
+            self.give_keyboard(window)
         self._xdotool("key", key)
 
     def close_window(self):
         """What the close control in the window's frame does."""
         self.press("alt+F4")
 
-    def await_window(self, title=INSTALLER):
+    def find_window(self, title):
         """Its number, once it is on the screen with that title."""
         self._manage_windows()
-        window = await_that(lambda: self._find_windows(title))[0]
-        self._give_keyboard(window)
+        return await_that(lambda: self._find_windows(title))[0]
+
+    def await_window(self, title=INSTALLER):
+        """Finds it and gives it the keyboard."""
+        window = self.find_window(title)
+        self.give_keyboard(window)
         return window
 
     def size(self, window):
@@ -160,12 +184,6 @@ class Screen:
         lines = self._xdotool("getwindowgeometry", "--shell", window).splitlines()
         values = dict(line.split("=") for line in lines)
         return (int(values["WIDTH"]), int(values["HEIGHT"])) if values else None
-
-    def click(self, window, right, bottom):
-        """At so many pixels from the window's right and lower edge, as long as it is there."""
-        if size := self.size(window):
-            self._xdotool("mousemove", "--window", window, str(size[0] - right), str(size[1] - bottom),
-                          "click", "1")
 
     def bar(self, window):
         """How much of the bar in the window is filled, by its colour."""
@@ -216,9 +234,3 @@ class InstallerTest(unittest.TestCase):
         while installer.poll() is None:
             self.screen.press(key)
         self.expect_orderly_end(installer)
-
-    def run_and_press(self, *arguments, key="Return"):
-        """Runs until the window waits, and presses its button. The log."""
-        remove(LOG)
-        self.press_until_closed(self.start(*arguments), key)
-        return read_log()

@@ -34,14 +34,6 @@ class Kill(InstallerTest):
         installer.kill()
         installer.wait()
 
-    def expect_success(self, option, tree):
-        remove(LOG)
-        installer = self.start(*option)
-        await_that(lambda: os.path.exists(LOG) and {"d ", "d completed"} & set(read_log()))
-        self.assertIn("d completed", read_log())
-        self.expect_orderly_end(installer)
-        self.assertEqual((read_tree(BUNDLE), os.path.exists(BUNDLE)), (tree, bool(tree)))
-
     def test_at_every_moment(self):
         remove(OLD)
         old, new, held = draw(OLD, "old"), draw(NEW, "new"), 0
@@ -56,6 +48,8 @@ class Kill(InstallerTest):
                 for entry in read_log():
                     self.assertRegex(entry, "^[nd] .")
                 if number % 2:  # each takes a second
-                    self.expect_success(*((UNINSTALL, {}) if number % 4 == 3 else (INSTALL, new)))
+                    option, tree = (UNINSTALL, {}) if number % 4 == 3 else (INSTALL, new)
+                    self.assertEqual(self.run_installer(*option)[-2], "d completed")
+                    self.assertEqual((read_tree(BUNDLE), os.path.exists(BUNDLE)), (tree, bool(tree)))
                 held += 1
         print(f"kill matrix: {KILLS} tried, {held} held", flush=True)

@@ -1,29 +1,18 @@
-import itertools
 import os
 import re
 import time
+from datetime import datetime
 
-from machine import LOG, SOURCE, InstallerTest, read, read_log, write
+from machine import BUNDLE, LOG, SOURCE, InstallerTest, read, read_log, read_tree, remove, write
 
 TRACE = "/tmp/trace"
-
-
-def zone_with_distinct_fields():
-    """A time zone that isn't the machine's, in which month, day, hour and minute differ by now."""
-    for hours, minutes in itertools.product(range(-12, 13), (45, 15)):
-        zone = f"LOC{hours}:{minutes}"
-        os.environ["TZ"] = zone
-        time.tzset()
-        now = time.localtime()
-        if len({now.tm_mon, now.tm_mday, now.tm_hour, now.tm_min, now.tm_year % 100}) == 5:
-            return zone
-    raise AssertionError("no zone")
+OUTSIDE = "/tmp/outside"
 
 
 class Log(InstallerTest):
     def trace(self, *arguments):
         """The system calls of a run on the log, and those that create or remove something."""
-        self.run_installer(*arguments, command=[
+        self.run_installer(*arguments, env=os.environ | {"TZ": "LOC-5:45"}, command=[
             "strace", "--follow-forks", "--decode-fds=path", "--string-limit=1024", "--output=" + TRACE,
             "--trace=openat,write,fdatasync,mkdirat,linkat,unlinkat,syncfs",
             os.environ["INSTALLER"]])
@@ -32,19 +21,43 @@ class Log(InstallerTest):
 
     def test_each_entry_is_one_write_and_on_the_disk_before_the_next_step(self):
         write(SOURCE + "quillbarn.app/folder/file")
-        calls = self.trace("-install", SOURCE)
-        opened = [rest for call, rest in calls if call == "openat" and "O_APPEND" in rest]
-        self.assertEqual(len(opened), 1)
-        calls = [call if LOG in rest or call == "syncfs" else "step"
-                 for call, rest in calls if call != "openat"]
-        self.assertEqual([call for call in calls if call in ("write", "fdatasync")],
-                         ["write", "fdatasync"] * len(read_log()))
-        self.assertEqual([calls[i - 1] for i, call in enumerate(calls) if call == "step"], ["fdatasync"] * 3)
-        self.assertEqual(calls[-5:], ["syncfs", *["write", "fdatasync"] * 2])  # completed, exit
+        for arguments in ["-install", SOURCE], ["-uninstall"]:
+            with self.subTest(arguments=arguments):
+                began = time.time() // 1
+                calls = self.trace(*arguments)
+                for line in read(LOG).splitlines():
+                    stamp = datetime.strptime(line[:19] + "+0545", "%Y/%m/%d-%H:%M:%S%z").timestamp()
+                    self.assertTrue(began <= stamp <= time.time(), line)
+                opened = [rest for call, rest in calls if call == "openat" and "O_APPEND" in rest]
+                self.assertEqual(len(opened), 1)
+                calls = [call if LOG in rest or call == "syncfs" else "step"
+                         for call, rest in calls if call != "openat"]
+                self.assertEqual([call for call in calls if call in ("write", "fdatasync")],
+                                 ["write", "fdatasync"] * len(read_log()))
+                before = [calls[i - 1] for i, call in enumerate(calls) if call == "step"]
+                self.assertEqual([call for call in before if call != "step"], ["fdatasync"] * 3)
+                self.assertEqual(calls[-5:], ["syncfs", *["write", "fdatasync"] * 2])  # completed, exit
 
-    def test_the_time_is_local(self):
-        before = zone_with_distinct_fields() and time.time()
-        self.run_installer("-uninstall", env=os.environ.copy())
-        for line in read(LOG).splitlines():
-            stamp = time.mktime(time.strptime(line[:19], "%Y/%m/%d-%H:%M:%S"))
-            self.assertTrue(int(before) <= stamp <= time.time(), line)
+    def test_something_is_in_its_place(self):
+        kept, new = OUTSIDE + "/kept", OUTSIDE + "/new"
+        write(kept, "kept")
+        os.chown(kept, 65534, 65534)
+        outside = read_tree(OUTSIDE)
+        for name, put in {
+                "link": lambda: os.symlink(kept, LOG), "link to nothing": lambda: os.symlink(new, LOG),
+                "hard link": lambda: os.link(kept, LOG), "pipe": lambda: os.mkfifo(LOG),
+                "folder": lambda: os.mkdir(LOG)}.items():
+            with self.subTest(name):
+                remove(LOG)
+                write(BUNDLE + "/file")
+                put()
+                reader = os.open(LOG if name == "pipe" else kept, os.O_RDONLY | os.O_NONBLOCK)
+                installer = self.start("-uninstall")
+                self.screen.await_window()
+                os.close(reader)
+                self.assertEqual(installer.wait(60), 0)
+                self.assertFalse(os.path.exists(BUNDLE))
+                self.assertEqual(read_tree(OUTSIDE), outside)
+                if name == "link to nothing":
+                    self.assertFalse(os.path.islink(LOG))
+                    self.assertIn("d completed", read_log())

@@ -4,7 +4,7 @@ import os
 import time
 
 from disks import DetachTest, DiskImage, run
-from machine import LOG, await_that, read_log, write
+from machine import read_log, write
 
 
 class Patience(DetachTest):
@@ -13,33 +13,23 @@ class Patience(DetachTest):
         self.image = DiskImage(self)
         self.began = time.monotonic()
 
-    def expect_seconds(self, expected):
-        """Not less, nor a pause more, however busy the machine is."""
-        self.assertAlmostEqual(time.monotonic() - self.began, expected + 2, delta=2.5)
+    def expect_success(self, installer, expected):
+        """Not in less seconds, nor in as many as with pauses of a second more; busy as the machine
+        may be."""
+        self.expect_orderly_end(installer)
+        seconds = time.monotonic() - self.began
+        self.assertTrue(expected <= seconds < 1.2 * expected, seconds)
+        self.assertEqual(read_log(), self.log_of(self.image))
+        self.expect_detached(self.image)
 
     def test_becomes_free(self):
         with open(self.image.bundle + "/quillbarn"):
             installer = self.start("-install2", self.image.bundle)
-            self.screen.await_window("Ejecting the disk image: waiting for the volume to be free")
-            time.sleep(max(0, self.began + 7 - time.monotonic()))
-            self.assertIsNone(installer.poll())
-        self.expect_orderly_end(installer)
-        self.expect_seconds(10)
-        self.assertEqual(read_log(), self.success(self.image))
-        self.expect_detached(self.image)
-
-    def test_in_use_to_the_end_and_no_service_at_all(self):
-        nowhere = os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/nowhere"}
-        with open(self.image.bundle + "/quillbarn"):
-            other = self.start("-install2", self.image.bundle, env=nowhere)
-            await_that(lambda: os.path.exists(LOG) and len(read_log()) == 4)
-            window = self.screen.await_window("Ejecting the disk image: .*")
+            window = self.screen.await_window("Ejecting the disk image: waiting for the volume to be free")
             self.assertAlmostEqual(self.screen.bar(window), 1, delta=0.01)  # and not a black window
-            self.expect_orderly_end(self.start("-install2", self.image.bundle))
-            self.expect_seconds(35)
-            self.assertEqual(other.wait(5), 0)
-        self.assertCountEqual(read_log(), self.log_of(self.image.bundle, "d failed") * 2)
-        self.assertTrue(self.image.is_mounted())
+            time.sleep(max(0, self.began + 17 - time.monotonic()))
+            self.assertIsNone(installer.poll())
+        self.expect_success(installer, 20)
 
     def test_takes_longer_than_the_bus_gives_a_call(self):
         run("mkdir", "/tmp/upper", "/tmp/work")
@@ -48,7 +38,4 @@ class Patience(DetachTest):
         helper = "/usr/sbin/umount.squashfs"  # which the service's library calls
         write(helper, '#!/bin/sh\nsleep 27\nexec umount --internal-only "$1"\n')
         os.chmod(helper, 0o755)
-        log = self.run_installer("-install2", self.image.bundle)
-        self.expect_seconds(27)
-        self.assertEqual(log, self.success(self.image))
-        self.expect_detached(self.image)
+        self.expect_success(self.start("-install2", self.image.bundle), 27)

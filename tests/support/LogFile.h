@@ -1,11 +1,25 @@
 #pragma once
 
-#include <string>
+#include "support/Tree.h"
+
+#include <sstream>
 #include <vector>
 
-// The entries of the installer's log file as "level message", whatever their time and process. An
-// entry that doesn't have the log's form stands as it is, with a "?" before it.
-std::vector<std::string> readLog();
+using Lines = std::vector<std::string>;
+
+// The entries of the installer's log file as "level message", whatever their time and process.
+inline Lines readLog()
+{
+    Lines entries;
+    std::istringstream lines(readFile("/tmp/quillbarninstaller.log"));
+    for (std::string line; std::getline(lines, line);)
+        entries.push_back(
+            line.substr(std::min(line.size(), line.find(' ', sizeof "yyyy/mm/dd-hh:mm:ss") + 1)));
+    return entries;
+}
 
 // Empties the file, which a logger may hold open.
-void clearLog();
+inline void clearLog()
+{
+    writeFile("/tmp/quillbarninstaller.log");
+}

@@ -1,7 +1,10 @@
 #pragma once
 
-#include <functional>
+#include <QTest>
 
-// Runs the loop of the main thread until the condition holds, for so many milliseconds at most.
-// Whether it does.
-bool runMainLoopUntil(const std::function<bool()>& condition, int limit = 10'000);
+// Runs the loop of the main thread until the condition holds, for ten seconds at most. Whether it
+// does.
+bool runMainLoopUntil(const auto& condition)
+{
+    return QTest::qWaitFor(condition, 10'000);
+}

@@ -2,27 +2,71 @@
 
 #include "MainInterface.h"
 #include "ViewController.h"
-#include "support/Screen.h"
+#include "WindowQt.h"
+#include "fakes/FoundationFake.h"
+#include "support/LogFile.h"
+#include "support/MainLoop.h"
 
-#include <AppKit/NSWindow.h>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVariantAnimation>
 
-enum class Start { normal, test };
+#include <gtest/gtest.h>
 
-// The window of the real interface file on the screen, with a controller that has started.
+// The window of the real interface file on the screen, with a controller that has started, and a
+// log that begins with it.
 struct TestWindow {
-    explicit TestWindow(Start start = Start::normal)
+    explicit TestWindow(Lines arguments = { "me" }, bool test = false)
     {
-        controller->m_test = start == Start::test;
-        interface.connect(controller);
-        interface.window()->makeKeyAndOrderFront();
+        foundation.arguments = std::move(arguments);
+        clearLog();
+        controller->m_test = test;
+        window->setContentViewController(controller);
+        window->makeKeyAndOrderFront();
     }
 
-    const MainInterface interface;
-    const std::shared_ptr<ViewController> controller = ViewController::initWithCoder(interface);
-};
+    // The pane is open, and its button has the keyboard.
+    bool awaitPane() const
+    {
+        return runMainLoopUntil([this] { return button.isDefault(); });
+    }
+    bool isOpening() const { return animation.state() == QAbstractAnimation::Running; }
+    bool awaitEnd() const
+    {
+        return runMainLoopUntil([this] { return window->isHidden(); });
+    }
 
-inline bool isPaneOpen(const ViewController& controller)
-{
-    return isPaneShown()
-        && controller.resultPainView->bounds().size.height == controller.m_resultPainViewHeight;
-}
+    std::string title() const { return window->windowTitle().toStdString(); }
+    std::string help() const { return button.accessibleDescription().toStdString(); }
+    double progress() const { return double(bar.value()) / (bar.maximum() - bar.minimum()); }
+
+    std::string rowAt(int y) const
+    {
+        QTextCursor cursor = text.cursorForPosition({ 0, y });
+        cursor.movePosition(QTextCursor::StartOfLine);
+        cursor.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+        return cursor.selectedText().toStdString();
+    }
+    std::string firstRow() const { return rowAt(0); }
+    std::string lastRow() const { return rowAt(text.viewport()->height() - 1); }
+
+    void press(Qt::Key key) const
+    {
+        QWidget* const focus = window->focusWidget();
+        QTest::keyClick(focus ? focus : window.get(), key);
+    }
+
+    void resize(int width, int height) const
+    {
+        window->resize(width, height);
+        QCoreApplication::processEvents();
+    }
+
+    const std::shared_ptr<WindowQt> window = std::make_shared<WindowQt>();
+    const std::shared_ptr<ViewController> controller = openMainInterface(*window);
+    QPlainTextEdit& text = *window->findChild<QPlainTextEdit*>();
+    QProgressBar& bar = *window->findChild<QProgressBar*>();
+    QVariantAnimation& animation = *window->findChild<QVariantAnimation*>();
+    QPushButton& button = *window->findChild<QPushButton*>();
+};

@@ -1,5 +1,7 @@
 #include "support/Tree.h"
 
+#include <array>
+#include <bit>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -17,7 +19,7 @@ TemporaryFolder::TemporaryFolder()
 
 TemporaryFolder::~TemporaryFolder()
 {
-    removeTree(m_path);
+    fs::remove_all(m_path);
 }
 
 void writeFile(const std::string& path, std::string_view content)
@@ -27,11 +29,6 @@ void writeFile(const std::string& path, std::string_view content)
     file << content;
     if (!file.flush())
         throw std::runtime_error("can't write " + path);
-}
-
-void makeFolder(const std::string& path)
-{
-    fs::create_directories(path);
 }
 
 void makeLink(const std::string& path, const std::string& target)
@@ -62,8 +59,16 @@ std::map<std::string, std::string> readTree(const std::string& folder)
     return tree;
 }
 
-void removeTree(const std::string& path)
+std::string accessControlList(std::uint32_t user)
 {
-    std::error_code ignored;
-    fs::remove_all(path, ignored);
+    struct Entry {
+        std::uint16_t tag;
+        std::uint16_t permissions;
+        std::uint32_t user;
+    };
+    constexpr std::uint32_t nobody = ~0U;
+    const std::array entries { Entry { 1, 7, nobody }, Entry { 2, 6, user }, Entry { 4, 0, nobody },
+        Entry { 16, 6, nobody }, Entry { 32, 0, nobody } };
+    return std::string("\2\0\0\0", 4)
+        + std::string(std::bit_cast<const char*>(entries.data()), sizeof entries);
 }

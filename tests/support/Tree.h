@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <filesystem>
 #include <map>
 #include <string>
 #include <string_view>
@@ -24,7 +26,6 @@ private:
 
 // With the folders on the way to it.
 void writeFile(const std::string& path, std::string_view content = "");
-void makeFolder(const std::string& path);
 void makeLink(const std::string& path, const std::string& target);
 
 std::string readFile(const std::string& path);
@@ -33,5 +34,6 @@ std::string readFile(const std::string& path);
 // content of a file.
 std::map<std::string, std::string> readTree(const std::string& folder);
 
-// Removes a folder, as far as it is there, with all it holds.
-void removeTree(const std::string& path);
+// The value of an attribute that says who may what, as the system keeps it: the owner all, and that
+// user reads and writes.
+std::string accessControlList(std::uint32_t user);

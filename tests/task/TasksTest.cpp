@@ -1,17 +1,13 @@
-#include "InstallTask.h"
-#include "UninstallTask.h"
+#include "BundleTask.h"
 #include "UnmountTask.h"
 #include "fakes/DiskArbitrationFake.h"
-#include "fakes/MountedVolumesFake.h"
+#include "fakes/FoundationFake.h"
 #include "fakes/RecordedReport.h"
 #include "support/LogFile.h"
 #include "support/MainLoop.h"
-#include "support/Tree.h"
 
 #include <gtest/gtest.h>
 #include <thread>
-
-using Lines = std::vector<std::string>;
 
 namespace {
 
@@ -32,18 +28,6 @@ protected:
         std::thread task(run);
         EXPECT_TRUE(runMainLoopUntil([this] { return report->hasEnded(); }));
         task.join();
-    }
-
-    Lines install(DryRun dryRun, const std::string& source)
-    {
-        runTask([&] { InstallTask(*report, apps.path(), "quillbarn.app", dryRun).run(source); });
-        return linesWithoutFolders();
-    }
-
-    Lines uninstall(DryRun dryRun)
-    {
-        runTask([&] { UninstallTask(*report, apps.path(), "quillbarn.app", dryRun).run(); });
-        return linesWithoutFolders();
     }
 
     Lines linesWithoutFolders() const
@@ -69,91 +53,83 @@ protected:
 
 }
 
-TEST_F(Tasks, installShowsEachStepBeforeItIsMade)
-{
-    EXPECT_EQ(install(DryRun::no, folder / "source/"),
-        (Lines { "task: “remove /quillbarn.app/old/y” | quillbarn.app old y",
-            "task: “remove /quillbarn.app/old/” | quillbarn.app old",
-            "task: “mkdir /quillbarn.app” | quillbarn.app", //
-            "task: 0 of 3 | quillbarn.app", //
-            "task: “mkdir /quillbarn.app/d” | quillbarn.app", "task: 1 of 3 | quillbarn.app d",
-            "task: “ copy /quillbarn.app/d/x” | quillbarn.app d",
-            "task: 2 of 3 | quillbarn.app d x", //
-            "task: pause 1 | quillbarn.app d x", //
-            "task: “completed” | quillbarn.app d x", "task: close window | quillbarn.app d x" }));
-    EXPECT_EQ(readFile(installed + "d/x"), "new");
-    EXPECT_EQ(readLog(), Lines { "n install bundle" });
+namespace {
+
+// What is told, and what the bundle's folder holds by then. A dry run tells the same and leaves it
+// as it is.
+struct Step {
+    const char* told;
+    const char* disk; // none: a pause that only a dry run makes
+};
+
+const std::vector<Step> installSteps {
+    { "“remove /quillbarn.app/old/y”", " quillbarn.app old y" },
+    { "“remove /quillbarn.app/old/”", " quillbarn.app old" },
+    { "“mkdir /quillbarn.app”", " quillbarn.app" },
+    { "0 of 3", " quillbarn.app" },
+    { "“mkdir /quillbarn.app/d”", " quillbarn.app" },
+    { "1 of 3", " quillbarn.app d" },
+    { "“ copy /quillbarn.app/d/x”", " quillbarn.app d" },
+    { "pause 0.1", nullptr },
+    { "2 of 3", " quillbarn.app d x" },
+    { "pause 1", " quillbarn.app d x" },
+    { "“completed”", " quillbarn.app d x" },
+    { "close window", " quillbarn.app d x" },
+};
+
+const std::vector<Step> uninstallSteps {
+    { "“remove /quillbarn.app/old/y”", " quillbarn.app old y" },
+    { "0 of 3", " quillbarn.app old" },
+    { "“remove /quillbarn.app/old/”", " quillbarn.app old" },
+    { "1 of 3", " quillbarn.app" },
+    { "“remove /quillbarn.app/”", " quillbarn.app" },
+    { "2 of 3", "" },
+    { "pause 1", "" },
+    { "“completed”", "" },
+    { "finish", "" },
+};
+
 }
 
-TEST_F(Tasks, aDryInstallShowsTheSameAndLeavesTheDiskAlone)
+TEST_F(Tasks, showEachStepBeforeItIsMadeOrAsIfItWere)
 {
-    const std::string disk = " | quillbarn.app old y";
-    EXPECT_EQ(install(DryRun::yes, folder / "source/"),
-        (Lines { "task: “remove /quillbarn.app/old/y”" + disk,
-            "task: “remove /quillbarn.app/old/”" + disk, //
-            "task: “mkdir /quillbarn.app”" + disk, //
-            "task: 0 of 3" + disk, //
-            "task: “mkdir /quillbarn.app/d”" + disk, //
-            "task: 1 of 3" + disk, //
-            "task: “ copy /quillbarn.app/d/x”" + disk, //
-            "task: pause 0.1" + disk, //
-            "task: 2 of 3" + disk, //
-            "task: pause 1" + disk, //
-            "task: “completed”" + disk, //
-            "task: close window" + disk }));
+    const std::string source = folder / "source/";
+    for (const DryRun dryRun : { DryRun::yes, DryRun::no })
+        for (const bool installs : { true, false }) {
+            std::filesystem::remove_all(installed);
+            writeFile(installed + "old/y", "old");
+            runTask([&] {
+                BundleTask task(*report, apps.path(), "quillbarn.app", dryRun);
+                installs ? task.install(source) : task.uninstall();
+            });
+            Lines expected;
+            for (const auto& [told, disk] : installs ? installSteps : uninstallSteps)
+                if (disk || dryRun == DryRun::yes)
+                    expected.push_back(std::string("task: ") + told + " |"
+                        + (dryRun == DryRun::yes ? " quillbarn.app old y" : disk));
+            EXPECT_EQ(linesWithoutFolders(), expected);
+        }
 }
 
-TEST_F(Tasks, uninstallRemovesTheDeepestFirst)
+TEST_F(Tasks, whateverIsThrownEndsTheRunWithWords)
 {
-    EXPECT_EQ(uninstall(DryRun::no),
-        (Lines { "task: “remove /quillbarn.app/old/y” | quillbarn.app old y",
-            "task: 0 of 3 | quillbarn.app old", //
-            "task: “remove /quillbarn.app/old/” | quillbarn.app old",
-            "task: 1 of 3 | quillbarn.app", //
-            "task: “remove /quillbarn.app/” | quillbarn.app", //
-            "task: 2 of 3 |", //
-            "task: pause 1 |", //
-            "task: “completed” |", //
-            "task: finish |" }));
-    EXPECT_EQ(readLog(), Lines { "n uninstall bundle" });
-
-    EXPECT_EQ(uninstall(DryRun::no),
-        (Lines { "task: pause 1 |", "task: “completed” |", "task: finish |" }));
-}
-
-TEST_F(Tasks, aDryUninstallShowsTheSameAndLeavesTheDiskAlone)
-{
-    const std::string disk = " | quillbarn.app old y";
-    EXPECT_EQ(uninstall(DryRun::yes),
-        (Lines { "task: “remove /quillbarn.app/old/y”" + disk, //
-            "task: 0 of 3" + disk, //
-            "task: “remove /quillbarn.app/old/”" + disk, //
-            "task: 1 of 3" + disk, //
-            "task: “remove /quillbarn.app/”" + disk, //
-            "task: 2 of 3" + disk, //
-            "task: pause 1" + disk, //
-            "task: “completed”" + disk, //
-            "task: finish" + disk }));
-}
-
-TEST_F(Tasks, aFailureEndsTheRunAtOnceWithABlankLineAndItsDescription)
-{
-    const std::string disk = " | quillbarn.app old y";
-    const std::string why = "The folder “/sourcequillbarn.app/” couldn’t be opened because it "
-                            "doesn’t exist (No such file or directory).";
-    EXPECT_EQ(install(DryRun::no, folder / "source"),
-        (Lines {
-            "task: “”" + disk, "task: “" + why + "”" + disk, "task: failure: " + why + disk }));
-}
-
-TEST_F(Tasks, removingForAnInstallKeepsTheTopFolderAndStepsNoBar)
-{
-    const UninstallTask task(*report, apps.path(), "quillbarn.app", DryRun::no);
-    task.removeBundle(BundleTree::TopFolder::exclude, nullptr);
-    EXPECT_EQ(linesWithoutFolders(),
-        (Lines { "main: “remove /quillbarn.app/old/y” | quillbarn.app old y",
-            "main: “remove /quillbarn.app/old/” | quillbarn.app old" }));
-    EXPECT_EQ(readTree(apps.path()).size(), 1u);
+    const std::map<std::string, std::function<void()>> throwers {
+        { "because the memory is used up.", [] { throw std::bad_alloc(); } },
+        { "because of: odd", [] { throw std::runtime_error("odd"); } },
+    };
+    for (const auto& thrower : throwers) {
+        bool hasThrown = false;
+        RecordedReport failing([&] {
+            if (!std::exchange(hasThrown, true))
+                thrower.second();
+            return "";
+        });
+        std::thread([&] {
+            BundleTask(failing, apps.path(), "quillbarn.app", DryRun::no).uninstall();
+        }).join();
+        EXPECT_EQ(
+            failing.takeLines().back(), "task: failure: The run couldn’t go on " + thrower.first);
+    }
 }
 
 namespace {
@@ -181,17 +157,19 @@ TEST_P(Unmount, triesUntilThePathHasGoneButNotMoreThanSevenTimes)
     if (c.attempts > 0 && !isTooLong)
         writeFile(path);
     const bool isOnVolume = c.path != UnmountCase::Path::isOnNoVolume;
-    setMountedVolumes(isOnVolume ? Lines { volume.path() } : Lines {});
-    diskArbitration() = c.service;
-    diskArbitration().unmount = [&] {
-        if (mountedVolumesAsked() < c.freeFrom)
+    foundation.mountPoints = isOnVolume ? Lines { volume.path() } : Lines {};
+    foundation.mountPointsAsked = 0;
+    diskArbitration = c.service;
+    diskArbitration.unmount = [&] {
+        if (foundation.mountPointsAsked < c.freeFrom)
             return false;
         if (c.path == UnmountCase::Path::goes)
-            removeTree(path);
+            std::filesystem::remove_all(path);
         return true;
     };
 
-    const auto plain = std::make_shared<RecordedReport>([] { return ""; });
+    const auto plain = std::make_shared<RecordedReport>(
+        [] { return diskArbitration.isInCallback ? " within the callback" : ""; });
     std::int64_t ejectLoop = 4711;
     std::thread task([&] { UnmountTask(plain, path, ejectLoop).run(); });
     EXPECT_TRUE(runMainLoopUntil([&] { return plain->hasEnded(); }));
@@ -201,7 +179,7 @@ TEST_P(Unmount, triesUntilThePathHasGoneButNotMoreThanSevenTimes)
     expected.insert(expected.end(), c.lines.begin(), c.lines.end());
     EXPECT_EQ(plain->takeLines(), expected);
     EXPECT_EQ(ejectLoop, c.attempts);
-    EXPECT_EQ(mountedVolumesAsked(), c.attempts);
+    EXPECT_EQ(foundation.mountPointsAsked, c.attempts);
     Lines log { "n unmount " + path };
     if (!isOnVolume)
         log.emplace_back("d getDMGMountPointURL failed");

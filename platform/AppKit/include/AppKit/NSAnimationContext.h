@@ -3,14 +3,16 @@
 #include <functional>
 
 // How the changes that are made through an animator happen, from beginGrouping to endGrouping.
-// Groups nest. Each thread has its own.
+// Unlike in AppKit, groups don't nest. Main thread only.
 class NSAnimationContext {
 public:
-    static void beginGrouping();
-    static void endGrouping();
-
-    // That of the innermost group.
-    static NSAnimationContext& currentContext();
+    static void beginGrouping() { currentContext() = {}; }
+    static void endGrouping() { currentContext() = {}; }
+    static NSAnimationContext& currentContext()
+    {
+        static NSAnimationContext context;
+        return context;
+    }
 
     // Seconds.
     double duration() const { return m_duration; }

@@ -28,22 +28,21 @@ class NSApplication {
 public:
     static NSApplication& sharedApplication();
 
-    void setDelegate(std::shared_ptr<NSApplicationDelegate> delegate);
+    const std::shared_ptr<NSApplicationDelegate>& delegate() const { return m_delegate; }
+    void setDelegate(std::shared_ptr<NSApplicationDelegate> delegate)
+    {
+        m_delegate = std::move(delegate);
+    }
 
     // Brings the window to the front as soon as it is on the screen, and gives it the keyboard, if
     // the desktop lets it.
-    void activateIgnoringOtherApps();
+    void activateIgnoringOtherApps() { m_isToBeActive = true; }
+    bool isToBeActive() const { return m_isToBeActive; }
 
     // Tells the delegate and ends the process with 0, whatever other threads are doing.
     [[noreturn]] void terminate();
 
 private:
-    friend int NSApplicationMain(int argc, const char* const argv[]);
-
-    int run();
-    static void watchDisplay();
-    static void endWithoutDisplay();
-
     std::shared_ptr<NSApplicationDelegate> m_delegate;
     bool m_isToBeActive = false;
 };
@@ -54,11 +53,7 @@ private:
 // a line on standard error that says what to do.
 int NSApplicationMain(int argc, const char* const argv[]);
 
-// The program's main interface. Unlike in AppKit, where a property of the bundle names a file, the
-// program has one object of this class outside all functions. `load` opens the interface file,
-// makes the objects outside the window, and connects everything.
-class NSMainInterface {
-public:
-    using Load = std::shared_ptr<NSWindow> (*)(NSApplication& application);
-    explicit NSMainInterface(Load load);
-};
+// Opens the program's main interface, makes the objects outside its window, such as the delegate,
+// and connects everything. Unlike with AppKit, where a property of the bundle names a file, the
+// program defines this function.
+std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application);

@@ -2,16 +2,12 @@
 
 #include <AppKit/NSView.h>
 
-#include <functional>
+#include <string>
 
 class NSButton : public NSView {
 public:
-    // What a press does. `sender` is this button.
-    virtual void setAction(std::function<void(NSView* sender)> action) = 0;
-
-    virtual bool isEnabled() const = 0;
     virtual void setEnabled(bool enabled) = 0;
 
-    // Presses the button as a person would: nothing happens while it is disabled.
-    virtual void performClick() = 0;
+    // What a screen reader says about the button when it takes the keyboard.
+    virtual void setAccessibilityHelp(const std::string& help) = 0;
 };

@@ -15,18 +15,11 @@ public:
     virtual void setConstant(CGFloat constant) = 0;
 
     // What is set through it changes over the duration of the current animation group.
-    class Animator {
-    public:
-        explicit Animator(NSLayoutConstraint& constraint)
-            : m_constraint(constraint)
-        {
-        }
-        void setConstant(CGFloat constant) { m_constraint.animateConstant(constant); }
-
-    private:
-        NSLayoutConstraint& m_constraint;
+    struct Animator {
+        NSLayoutConstraint& constraint;
+        void setConstant(CGFloat constant) const { constraint.animateConstant(constant); }
     };
-    Animator animator() { return Animator(*this); }
+    Animator animator() { return { *this }; }
 
 private:
     virtual void animateConstant(CGFloat constant) = 0;

@@ -10,6 +10,5 @@ public:
     virtual void setMaxValue(double value) = 0;
 
     // Values outside the range show as the end they lie beyond.
-    virtual double doubleValue() const = 0;
     virtual void setDoubleValue(double value) = 0;
 };

@@ -2,22 +2,20 @@
 
 #include <AppKit/NSView.h>
 
-#include <string>
 #include <string_view>
 
 // A text that can be selected, copied and read by a screen reader, in rows of the field's width.
 // Bytes that are not UTF-8 show as U+FFFD.
 class NSTextField : public NSView {
 public:
-    virtual const std::string& stringValue() const = 0;
     virtual void setStringValue(std::string_view text) = 0;
 
     // Unlike AppKit's, a field can be added to: what setting the value followed by `text` would do.
     // As long as the field can't be seen, in a time that does not grow with the value.
     virtual void appendString(std::string_view text) = 0;
 
-    // The area of the whole text, seen or not. Unlike AppKit's, its width is always the scroll
-    // view's; and as long as the field can't be seen, each line counts as one row.
+    // The area of the whole text. Unlike AppKit's, its width is always the scroll view's, and as
+    // long as the field can't be seen, it has no text to be fitted to.
     virtual NSRect frame() const = 0;
     virtual void setFrame(const NSRect& frame) = 0;
 
@@ -28,6 +26,7 @@ public:
     virtual NSRect visibleRect() const = 0;
 
     // Makes the row at this point the first of that part, or the next one from which the text fills
-    // the view. At the end of the text the view stays at the end when its size changes.
+    // the view. At the end of the text the view stays at the end when its size changes; that is
+    // also where it is when it comes in sight.
     virtual void scrollPoint(NSPoint point) = 0;
 };

@@ -2,8 +2,6 @@
 
 #include <Foundation/NSGeometry.h>
 
-#include <string>
-
 class NSWindow;
 
 // A part of the window, which owns it. Main thread only, like everything in this framework.
@@ -14,9 +12,6 @@ public:
     // The view's own area, its origin at (0, 0).
     virtual NSRect bounds() const = 0;
 
-    // The window the view is in, or nullptr.
+    // The window the view is in.
     virtual NSWindow* window() const = 0;
-
-    // What a screen reader says about the view when that takes the keyboard.
-    virtual void setAccessibilityHelp(const std::string& help) = 0;
 };

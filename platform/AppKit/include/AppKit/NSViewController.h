@@ -1,12 +1,13 @@
 #pragma once
 
+#include <AppKit/NSCoder.h>
 #include <AppKit/NSView.h>
+#include <AppKit/NSWindow.h>
 
 #include <memory>
 #include <string>
 
 class NSBundle;
-class NSCoder;
 
 // Stands between a view and what the program is about. Kept by the window it is the content of.
 class NSViewController : public std::enable_shared_from_this<NSViewController> {
@@ -25,10 +26,15 @@ protected:
     NSViewController() = default;
 
     // Takes the view from an opened interface file. False where there is none.
-    bool initWithCoder(const NSCoder& coder);
+    bool initWithCoder(const NSCoder& coder)
+    {
+        if (coder.window)
+            m_view = coder.window->contentView();
+        return coder.window != nullptr;
+    }
 
     // Unlike AppKit, no view is loaded for a controller that is made outside its interface file.
-    bool initWithNibName(const std::string& nibName, const NSBundle* bundle);
+    static bool initWithNibName(const std::string&, const NSBundle*) { return true; }
 
 private:
     std::weak_ptr<NSView> m_view;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <DiskArbitration/DADissenter.h>
 #include <DiskArbitration/DASession.h>
 #include <Foundation/NSURL.h>
 
@@ -18,6 +17,9 @@ DADiskRef DADiskCreateFromVolumePath(
 enum DADiskUnmountOptions { kDADiskUnmountOptionDefault };
 enum DADiskEjectOptions { kDADiskEjectOptionDefault };
 
+// That a request was refused. Unlike in DiskArbitration, it doesn't say why: nobody asks.
+struct DADissenter {};
+
 // Tells the end of a request, once. `dissenter` is nullptr if it was granted, and gone after the
 // callback; `context` is what came with the request.
 using DADiskUnmountCallback
@@ -30,6 +32,7 @@ using DADiskEjectCallback = DADiskUnmountCallback;
 void DADiskUnmount(const DADiskRef& disk, DADiskUnmountOptions options,
     DADiskUnmountCallback callback, void* context);
 
-// Ejects the whole disk of the volume; if that is a disk image, detaches it from its device.
+// Ejects the whole disk of the volume; if that is a disk image, detaches it from its device as soon
+// as nobody uses that, which is never refused.
 void DADiskEject(
     const DADiskRef& disk, DADiskEjectOptions options, DADiskEjectCallback callback, void* context);

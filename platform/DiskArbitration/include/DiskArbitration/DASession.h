@@ -1,7 +1,6 @@
 #pragma once
 
-#include <Foundation/CFAllocator.h>
-#include <Foundation/CFRunLoop.h>
+#include <Foundation/CoreFoundation.h>
 
 #include <memory>
 

@@ -1,31 +1,20 @@
 #pragma once
 
-#include <Foundation/NSError.h>
 #include <Foundation/NSURL.h>
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 class OpenFolders;
-struct Place;
-struct stat;
+struct Item;
 
-// Which file an existing path leads to: no two files have the same, and one file has it under
-// every path.
-struct NSFileIdentity {
-    unsigned long systemNumber = 0;
-    unsigned long systemFileNumber = 0;
-
-    bool operator==(const NSFileIdentity&) const = default;
-    bool operator<(const NSFileIdentity& other) const
-    {
-        return std::tie(systemNumber, systemFileNumber)
-            < std::tie(other.systemNumber, other.systemFileNumber);
-    }
-};
+// Which file an existing path leads to, by volume and number: no two files have the same, and one
+// file has it under every path.
+using FileIdentity = std::pair<unsigned long, unsigned long>;
 
 // Unlike in Foundation, naming a property of a volume fetches nothing: it could only be had from
 // the volume itself, which may be out of reach.
@@ -38,7 +27,8 @@ enum NSURLResourceKey {
 
 enum NSVolumeEnumerationOptions { NSVolumeEnumerationSkipHiddenVolumes = 1 << 1 };
 
-// Looks at the file system. Paths are bytes. What changes a tree is NSConfinedFileManager.
+// Looks at the file system. Paths are bytes. What changes a tree is ConfinedFolder. What fails
+// throws an NSError, unless told otherwise.
 class NSFileManager {
 public:
     // Safe on any thread.
@@ -52,23 +42,19 @@ public:
     NSFileManager& operator=(const NSFileManager&) = delete;
 
     // Whether something is there. Follow links: a link that leads nowhere does not exist. Unlike in
-    // Foundation, what can't be looked at is neither there nor absent: the answer is none, and
-    // `error`, where it is wanted, is filled in.
-    std::optional<bool> fileExistsAtPath(const std::string& path, NSError* error) const;
-    std::optional<bool> fileExistsAtPath(
-        const std::string& path, bool& isDirectory, NSError* error) const;
+    // Foundation, what can't be looked at is neither there nor absent, but an error; and the answer
+    // may be which file it is.
+    bool fileExistsAtPath(const std::string& path) const;
+    std::optional<FileIdentity> fileExistsAtPath(const std::string& path, bool& isDirectory) const;
 
-    // The names in a folder, hidden ones included, in the file system's order; none, and `error`
-    // filled in, where it can't be read.
-    std::optional<std::vector<std::string>> contentsOfDirectoryAtPath(
-        const std::string& path, NSError* error) const;
+    // The names in a folder, hidden ones included, in the file system's order.
+    std::vector<std::string> contentsOfDirectoryAtPath(const std::string& path) const;
 
-    // Where a link leads, as it stands in it. Unlike in Foundation without an error: none for what
-    // is no link.
+    // Where a link leads, as it stands in it. Unlike in Foundation, none for what is no link.
     std::optional<std::string> destinationOfSymbolicLinkAtPath(const std::string& path) const;
 
-    // Follows links. None, and `error` filled in, where nothing is there or can be looked at.
-    std::optional<NSFileIdentity> fileIdentityAtPath(const std::string& path, NSError* error) const;
+    // `path` with all links in it followed, or as it stands where nothing is there.
+    std::string stringByResolvingSymlinksInPath(const std::string& path) const;
 
     // The mount points of the volumes that are not hidden, in the order of the mount table. Never
     // waits for a volume.
@@ -86,8 +72,7 @@ public:
 private:
     explicit NSFileManager(std::unique_ptr<OpenFolders> folders);
 
-    std::error_code find(const std::string& path, Place& place) const;
-    std::error_code followStatus(const std::string& path, struct stat& status) const;
+    Item find(const std::string& path, std::initializer_list<int> expected = {}) const;
 
     const std::unique_ptr<OpenFolders> m_folders; // or none
 };

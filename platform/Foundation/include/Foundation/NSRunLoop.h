@@ -1,11 +1,15 @@
 #pragma once
 
-#include <Foundation/CFRunLoop.h>
+#include <Foundation/CoreFoundation.h>
 
 // Safe on any thread.
 class NSRunLoop {
 public:
-    static const NSRunLoop& mainRunLoop();
+    static NSRunLoop mainRunLoop() { return {}; }
 
-    CFRunLoopRef getCFRunLoop() const;
+    CFRunLoopRef getCFRunLoop() const
+    {
+        static CFRunLoop loop;
+        return &loop;
+    }
 };

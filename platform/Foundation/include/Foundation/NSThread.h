@@ -8,6 +8,7 @@ public:
 
     // Suspends the caller for that many seconds, or a little longer. Unlike in Foundation, the main
     // thread still answers the desktop meanwhile: it draws, and tells a screen reader what it asks.
-    // But no key counts, and nothing runs that was submitted.
+    // But no key counts; and work of the main queue that makes a pause holds up what comes after
+    // it.
     static void sleepForTimeInterval(double seconds);
 };

@@ -1,4 +1,0 @@
-#pragma once
-
-// That a request was refused. Unlike in DiskArbitration, it doesn't say why: nobody asks.
-struct DADissenter {};
