@@ -1,7 +1,8 @@
 # Builds the Debian package, which is left in build/package/, and checks it.
 
 make_package() {
-    need "${for_building[@]}" "${for_showing[@]}" "${for_packaging[@]}"
+    need "${for_building[@]}" "${for_showing[@]}" "${for_detaching[@]}" "${for_testing[@]}" \
+        "${for_packaging[@]}"
     local place=build/package
     rm -rf "$place"
     mkdir -p "$place/source"
@@ -9,7 +10,10 @@ make_package() {
     (cd "$place/source" && dpkg-buildpackage -us -uc -b)
     check_package "$place/source/debian/quillbarninstaller/usr/share"
     lintian --fail-on error,warning "$place"/*.changes
-    test_package "$PWD/$place"/quillbarninstaller_*.deb
+    local package=("$PWD/$place"/quillbarninstaller_*.deb)
+    test_release quillbarninstaller test_package
+    test_release "$PWD/$place/source/debian/quillbarninstaller/usr/bin/quillbarninstaller" \
+        test_failures test_detach
     ls -l "$place"/*.deb
 }
 
@@ -21,9 +25,10 @@ check_package() { # its share folder
     [ -z "$complaints" ] || { echo "$complaints" >&2 && return 1; }
 }
 
-# A machine of its own takes root here, so that it has a user besides.
-test_package() { # package
+# With a program that is built for use. A machine of its own takes root here, so that it has a user
+# besides.
+test_release() { # program test...
     "${as_root[@]}" env CI=1 tests/support/private-machine "$PWD" -- \
-        env PATH=/usr/sbin:/usr/bin:/sbin:/bin PACKAGE="$1" INSTALLER=quillbarninstaller \
-        PYTHONPATH="$PWD/tests/program:$PWD/package" python3 -B -m unittest -v test_package
+        env PATH=/usr/sbin:/usr/bin:/sbin:/bin PACKAGE="${package[0]}" INSTALLER="$1" \
+        PYTHONPATH="$PWD/tests/program:$PWD/package" python3 -B -m unittest -v "${@:2}"
 }

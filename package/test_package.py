@@ -3,23 +3,23 @@ changes of the system lies in memory, and goes with each test."""
 
 import os
 import pathlib
-import subprocess
 import tempfile
 
+from disks import run
 from machine import SOURCE, InstallerTest, mount, read_tree, remove, write
 
 NAME = "quillbarninstaller"
 FOLDER = pathlib.Path("/Applications")
-ADMINISTRATOR = "runuser", "-u", "ada", "--", NAME
-
-
-def run(*command):
-    subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+ADMINISTRATOR = "runuser", "-u", "admin", "--", NAME
 
 
 def dpkg(*arguments):
     """Without what other packages do then, such as listing all manual pages anew."""
     run("dpkg", "--no-triggers", *arguments)
+
+
+def install():
+    dpkg("--install", os.environ["PACKAGE"])
 
 
 def access():
@@ -28,7 +28,7 @@ def access():
 
 def traces():
     """Of the program in the system."""
-    return {path for top in ("/etc", "/usr", "/var/lib/dpkg")
+    return {path for top in ("/etc", "/usr", "/var/lib")
             for path in pathlib.Path(top).rglob(f"*{NAME}*")}
 
 
@@ -45,11 +45,11 @@ class Package(InstallerTest):
 
     def test_administrators_install_without_root_and_nothing_stays(self):
         before = traces()
-        dpkg("--install", os.environ["PACKAGE"])
+        install()
         self.assertEqual(access(), "root:sudo 2775")
         self.assertGreater(traces(), before)
 
-        run("useradd", "--groups", "sudo", "ada")
+        run("useradd", "--groups", "sudo", "admin")
         write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "the program")
         bundle = read_tree(SOURCE)
         self.run_installer("-install", SOURCE, command=ADMINISTRATOR)
@@ -57,15 +57,40 @@ class Package(InstallerTest):
         dpkg("--remove", NAME)
         self.assertEqual(read_tree(FOLDER), bundle)
 
-        dpkg("--install", os.environ["PACKAGE"])
+        install()
         self.run_installer("-uninstall", command=ADMINISTRATOR)
         dpkg("--purge", NAME)
         self.assertEqual(traces(), before)
         self.assertFalse(FOLDER.exists())
 
+    def test_the_folder_goes_with_the_package_that_made_it_whatever_came_between(self):
+        before = traces()
+        steps = {"install": install, "remove": lambda: dpkg("--remove", NAME),
+                 "fill": lambda: write(f"{FOLDER}/file"), "empty": lambda: remove(f"{FOLDER}/file"),
+                 "make anew": lambda: FOLDER.rmdir() or FOLDER.mkdir()}
+        for between in ([], ["install"], ["remove"], ["remove", "install"], ["fill"],
+                        ["fill", "remove", "empty"], ["fill", "remove", "install", "empty"],
+                        ["make anew"], ["fill", "remove", "empty", "make anew", "install"]):
+            with self.subTest(between=between):
+                install()
+                for step in between:
+                    steps[step]()
+                dpkg("--purge", NAME)
+                self.assertEqual(FOLDER.exists(), bool({"make anew"} & {*between}) or between == ["fill"])
+                self.assertEqual(traces(), before)
+                remove(FOLDER)
+
     def test_a_folder_that_was_there_is_left_alone(self):
-        FOLDER.mkdir(0o700)
-        dpkg("--install", os.environ["PACKAGE"])
-        self.assertEqual(access(), "root:root 700")
-        dpkg("--purge", NAME)
-        self.assertEqual(access(), "root:root 700")
+        for group, mode in ("root", "700"), ("sudo", "2775"):  # the latter as the package makes it
+            with self.subTest(group=group, mode=mode):
+                run("install", "-d", "-g", group, "-m", mode, FOLDER)
+                install()
+                self.assertEqual(access(), f"root:{group} {mode}")
+                dpkg("--purge", NAME)
+                self.assertEqual(access(), f"root:{group} {mode}")
+                remove(FOLDER)
+
+    def test_without_the_group_of_administrators_it_is_for_root(self):
+        run("groupdel", "sudo")
+        install()
+        self.assertEqual(access(), "root:root 2775")
