@@ -14,8 +14,8 @@ public:
     // Returns when the message is in the window and in the log. Safe on any thread.
     virtual void showMessage(const std::string& message) = 0;
 
-    // Returns when the bar shows that of `count` entries the one at `index` is done. From any
-    // thread but the main thread.
+    // The bar shows that of `count` entries the one at `index` is done, at the latest with the next
+    // frame of the screen. Returns when the window knows. From any thread but the main thread.
     virtual void setProgress(std::int64_t index, std::int64_t count) = 0;
 
     // Says that the task waits for the volume to be free, and goes on trying. On the main thread.

@@ -5,6 +5,7 @@
 #include <AppKit/NSButton.h>
 #include <AppKit/NSProgressIndicator.h>
 
+#include <QBasicTimer>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -27,7 +28,8 @@ public:
     }
 };
 
-// The toolkit's bar counts in whole steps, and draws only those that can be told apart.
+// The toolkit's bar counts in whole steps and draws each at once. A task steps thousands of times a
+// second, so that the bar may be as far behind as a screen is.
 class ProgressIndicatorQt : public ViewQt<QProgressBar, NSProgressIndicator> {
 public:
     using ViewQt::ViewQt;
@@ -36,9 +38,26 @@ public:
     void setMaxValue(double value) override { setMaximum(stepsAt(value)); }
     void setDoubleValue(double value) override
     {
-        setValue(std::clamp(stepsAt(value), minimum(), maximum()));
+        m_step = std::clamp(stepsAt(value), minimum(), maximum());
+        if (!m_frame.isActive())
+            showStep();
     }
 
 private:
     static int stepsAt(double value) { return int(std::lround(value * 1000)); }
+
+    void showStep()
+    {
+        setValue(m_step);
+        m_frame.start(16, this); // milliseconds
+    }
+    void timerEvent(QTimerEvent*) override
+    {
+        m_frame.stop();
+        if (value() != m_step)
+            showStep();
+    }
+
+    int m_step = 0;
+    QBasicTimer m_frame;
 };
