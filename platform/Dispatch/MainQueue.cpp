@@ -4,6 +4,7 @@
 
 #include <cassert>
 #include <chrono>
+#include <exception>
 #include <utility>
 
 namespace {
@@ -47,8 +48,18 @@ void MainQueue::sync(const std::function<void()>& work)
     assert(!NSThread::isMainThread());
     static thread_local const auto completion = std::make_shared<Completion>();
     completion->isDone = false;
-    add({ [&work] { work(); }, completion });
+    std::exception_ptr error;
+    const auto workOrNoteError = [&] {
+        try {
+            work();
+        } catch (...) {
+            error = std::current_exception();
+        }
+    };
+    add({ workOrNoteError, completion });
     completion->await();
+    if (error)
+        std::rethrow_exception(error);
 }
 
 void MainQueue::add(Item item)

@@ -9,6 +9,7 @@
 #include <array>
 #include <atomic>
 #include <gtest/gtest.h>
+#include <new>
 #include <string>
 #include <thread>
 #include <vector>
@@ -31,6 +32,8 @@ TEST(MainQueue, runsAllOfEachThreadInItsOrderOnTheMainThread)
                     std::this_thread::sleep_for(std::chrono::milliseconds(2));
             }
             EXPECT_NE(std::this_thread::get_id(), mainThread);
+            EXPECT_THROW(
+                DispatchQueue::main().sync([] { throw std::bad_alloc(); }), std::bad_alloc);
             DispatchQueue::main().async([&] {
                 if (--running == 0)
                     QCoreApplication::exit();

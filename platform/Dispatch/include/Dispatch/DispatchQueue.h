@@ -23,6 +23,7 @@ public:
 
 class DispatchMainQueue : public DispatchQueue {
 public:
-    // Returns when `work` has run. From any thread but the main thread, where it never returns.
+    // Returns when `work` has run. Unlike on the platform, throws what that threw. From any thread
+    // but the main thread, where it never returns.
     virtual void sync(const std::function<void()>& work) = 0;
 };
