@@ -2,7 +2,7 @@
 
 #include "support/Tree.h"
 
-#include <sstream>
+#include <fstream>
 #include <vector>
 
 using Lines = std::vector<std::string>;
@@ -11,10 +11,9 @@ using Lines = std::vector<std::string>;
 inline Lines readLog()
 {
     Lines entries;
-    std::istringstream lines(readFile("/tmp/quillbarninstaller.log"));
-    for (std::string line; std::getline(lines, line);)
-        entries.push_back(
-            line.substr(std::min(line.size(), line.find(' ', sizeof "yyyy/mm/dd-hh:mm:ss") + 1)));
+    std::ifstream file("/tmp/quillbarninstaller.log");
+    for (std::string time, id, entry; file >> time >> id && std::getline(file.ignore(), entry);)
+        entries.push_back(entry);
     return entries;
 }
 

@@ -12,8 +12,8 @@
 // "/".
 class TemporaryFolder {
 public:
-    TemporaryFolder();
-    ~TemporaryFolder();
+    TemporaryFolder() { std::filesystem::create_directories(m_path); }
+    ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
@@ -21,7 +21,8 @@ public:
     std::string operator/(std::string_view name) const { return m_path + std::string(name); }
 
 private:
-    std::string m_path;
+    static inline int s_count = 0;
+    const std::string m_path = "/tmp/folder" + std::to_string(++s_count) + "/";
 };
 
 // With the folders on the way to it.

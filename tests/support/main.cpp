@@ -4,13 +4,10 @@
 
 #include <cstdlib>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    mkdir("/run/user", 0700);
-    setenv("XDG_RUNTIME_DIR", "/run/user", 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 1); // says at every step what it can't do
     setenv("QT_LOGGING_RULES", "default.warning=false", 1);
     const QApplication application(argc, argv);
