@@ -31,12 +31,11 @@ std::string readFile(const std::string& path)
 std::map<std::string, std::string> readTree(const std::string& folder)
 {
     std::map<std::string, std::string> tree;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
         tree[entry.path().lexically_relative(folder)] = entry.is_symlink()
             ? "-> " + fs::read_symlink(entry).string()
             : entry.is_directory() ? "folder"
                                    : readFile(entry.path());
-    }
     return tree;
 }
 
