@@ -13,6 +13,7 @@ TEST(NSFileManager, whatCannotBeLookedAtIsNotAbsent)
     const NSFileManager& files = NSFileManager::defaultManager();
     for (const char* const path : { "missing/file", "file/in it", "circle" })
         EXPECT_FALSE(files.fileExistsAtPath(folder / path)) << path;
+    EXPECT_EQ(files.stringByResolvingSymlinksInPath(folder / "circle"), folder / "circle");
 
     const std::string path = folder / std::string(300, 'x');
     try {
