@@ -13,7 +13,7 @@ make_package() {
     local package=("$PWD/$place"/quillbarninstaller_*.deb)
     test_release quillbarninstaller test_package
     test_release "$PWD/$place/source/debian/quillbarninstaller/usr/bin/quillbarninstaller" \
-        test_failures test_detach
+        test_failures test_detach.Detach
     ls -l "$place"/*.deb
 }
 

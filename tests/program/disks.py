@@ -5,42 +5,24 @@ import re
 import subprocess
 import tempfile
 
-from machine import InstallerTest, await_that, keep_running, read, require, write
+from machine import InstallerTest, await_that, keep_running, read, require, start_bus, write
 
-BUS = """<busconfig>
-  <type>system</type>
-  <listen>unix:path=/run/dbus/system_bus_socket</listen>
-  <policy context="default">
-    <allow own="*"/><allow send_destination="*"/><allow receive_sender="*"/>
-  </policy>
-</busconfig>"""
+BUS = "/run/dbus/system_bus_socket"
 UDISKSD = "/usr/libexec/udisks2/udisksd"
 UDEVD = "/usr/lib/systemd/systemd-udevd"
 LOOPS = "/dev/loop-control"
-MEBIBYTE = 1 << 20
-TEXT = {"encoding": "utf-8", "errors": "surrogateescape"}
-QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
 
-def run(*command):
-    return subprocess.run(command, check=True, capture_output=True, **TEXT).stdout.strip()
-
-
-def start_disk_service():
-    write("/run/dbus/bus.conf", BUS)
-    keep_running("dbus-daemon", "--config-file=/run/dbus/bus.conf", "--nofork", **QUIET)
-    keep_running(UDEVD, **QUIET)
-    await_that(lambda: os.path.exists("/run/udev/control"))
-    await_that(lambda: os.path.exists("/run/dbus/system_bus_socket"))
-    keep_running(UDISKSD, **QUIET)
-    await_that(lambda: subprocess.run(["udisksctl", "status"], **QUIET).returncode == 0)
+def run(*command, check=True, **options):
+    return subprocess.run(command, check=check, capture_output=True, encoding="utf-8",
+                          errors="surrogateescape", **options).stdout.strip()
 
 
 class DiskImage:
     """An image with a bundle in it, mounted until the test is over, and known to the service.
 
     `kind` is "attached" to a device that keeps it when it is unmounted, "self-detaching", or
-    "partitioned" with the bundle in the first of two partitions.
+    "partitioned" with the bundle in a partition.
     """
 
     def __init__(self, test, mount_point="/Volumes/quillbarn installer", kind="attached"):
@@ -48,9 +30,9 @@ class DiskImage:
         self.mount_point = mount_point
         self.bundle = mount_point + "/quillbarn.app"
         write("/tmp/content/quillbarn.app/quillbarn", "the program")
-        run("mksquashfs", "/tmp/content", self.file, "-quiet", "-no-progress")
+        run("mksquashfs", "/tmp/content", self.file, "-quiet", "-offset", "1M" if kind == "partitioned" else "0")
         if kind == "partitioned":
-            self._partition()
+            run("sfdisk", self.file, input="label: dos\nstart=1MiB\n")
         self.device = run("losetup", "--find", "--show", self.file)
         test.addCleanup(self._clean_up)
         volume = self.device
@@ -61,32 +43,13 @@ class DiskImage:
         run("mount", "-t", "squashfs", volume, mount_point)
         if kind == "self-detaching":
             run("losetup", "--detach", self.device)  # as soon as it is free
-        await_that(lambda: self._is_known_mounted(volume))
-
-    def _partition(self):
-        with open(self.file, "rb+") as file:
-            volume = file.read()
-            file.seek(MEBIBYTE)
-            file.write(volume)
-            file.truncate(4 * MEBIBYTE)
-        subprocess.run(
-            ["sfdisk", "--quiet", "--wipe-partitions", "never", self.file], check=True, text=True,
-            input="label: gpt\nstart=1MiB, size=1MiB\nstart=2MiB, size=1MiB\n", **QUIET)
-
-    @staticmethod
-    def _is_known_mounted(volume):
-        """To the service, which hears of a new device only after a moment."""
-        info = subprocess.run(["udisksctl", "info", "-b", volume], capture_output=True, **TEXT)
-        return re.search("MountPoints: +/", info.stdout)
+        # The service hears of a new device only after a moment.
+        await_that(lambda: re.search("MountPoints: +/", run("udisksctl", "info", "-b", volume, check=False)))
 
     def _clean_up(self):
-        if self.is_mounted():
-            run("umount", "--lazy", self.mount_point)
+        run("umount", "--lazy", self.mount_point, check=False)  # where it still is
         if self.is_attached():
             run("losetup", "--detach", self.device)
-
-    def is_mounted(self):
-        return os.path.ismount(self.mount_point)
 
     def is_attached(self):
         backing_file = f"/sys/block/{os.path.basename(self.device)}/loop/backing_file"
@@ -98,7 +61,12 @@ class DetachTest(InstallerTest):
     def setUpClass(cls):
         require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "mksquashfs", "sfdisk", "losetup")
         super().setUpClass()
-        start_disk_service()
+        os.makedirs(os.path.dirname(BUS))
+        start_bus("--address=unix:path=" + BUS)
+        keep_running(UDEVD)
+        await_that(lambda: os.path.exists("/run/udev/control"))
+        keep_running(UDISKSD)
+        await_that(lambda: run("udisksctl", "status", check=False))
 
     @staticmethod
     def log_of(image, end="d unmount succeeded"):
@@ -106,5 +74,5 @@ class DetachTest(InstallerTest):
         return ["n installer start", "d " + step, "n " + step, "d " + step, end, "n installer exit"]
 
     def expect_detached(self, image):
-        self.assertFalse(image.is_mounted())
+        self.assertFalse(os.path.ismount(image.mount_point))
         await_that(lambda: not image.is_attached())  # the service looks at a device that has changed

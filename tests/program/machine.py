@@ -7,13 +7,13 @@ import subprocess
 import time
 import unittest
 from glob import glob
+from pathlib import Path
 
 LOG = "/tmp/quillbarninstaller.log"
 BUNDLE = "/Applications/quillbarn.app"
 SOURCE = "/tmp/source/"
 INSTALLER = ".*(quillbarn|disk image).*"  # its window's title
 GI = "/usr/lib/python3/dist-packages/gi"  # the package python3-gi
-MARGIN = 20  # of the window, beside the bar
 
 # Names of any bytes are text here, as Python has it for paths.
 BYTES = {"encoding": "utf-8", "errors": "surrogateescape", "newline": ""}
@@ -40,16 +40,20 @@ def require(*needed):
 RUNNING = []  # what runs until the machine is gone
 
 
-def keep_running(*command, **options):
-    RUNNING.append(subprocess.Popen(command, **options))
+def keep_running(*command, stdout=subprocess.DEVNULL, **options):
+    RUNNING.append(subprocess.Popen(command, stdout=stdout, stderr=subprocess.DEVNULL, text=True, **options))
     return RUNNING[-1]
 
 
-def start_bus():
+def start_server(*command):
+    """With the line by which it tells where it can be reached."""
+    server = keep_running(*command, stdout=subprocess.PIPE)
+    return server, server.stdout.readline().strip()
+
+
+def start_bus(*options):
     """A bus of the test's own. Its address."""
-    bus = keep_running("dbus-daemon", "--session", "--nofork", "--print-address",
-                       stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-    return bus.stdout.readline().decode().strip()
+    return start_server("dbus-daemon", "--session", "--nofork", "--print-address", *options)[1]
 
 
 def write(path, content=""):
@@ -71,30 +75,19 @@ def read(path):
 
 def read_tree(top):
     """What is below a folder: None for a folder, the target of a link, or the content of a file."""
-    tree = {}
-    for folder, folders, files in os.walk(top):
-        for name in folders + files:
-            path = os.path.join(folder, name)
-            tree[os.path.relpath(path, top)] = (
-                "-> " + os.readlink(path) if os.path.islink(path)
-                else None if os.path.isdir(path) else read(path))
-    return tree
+    return {str(path.relative_to(top)): (
+        f"-> {os.readlink(path)}" if path.is_symlink() else None if path.is_dir() else read(path))
+            for path in Path(top).rglob("*")}
 
 
-def remove(path):
-    if os.path.isdir(path) and not os.path.islink(path):
-        shutil.rmtree(path)
-    elif os.path.lexists(path):
-        os.unlink(path)
+def remove(*paths):
+    subprocess.run(["rm", "-rf", *paths], check=True)
 
 
 def read_log():
     """The entries as "level message", whatever their time and process."""
-    entries = []
-    for line in read(LOG).split("\n")[:-1]:
-        match = re.fullmatch(r"\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d \d+ ([nde] .*)", line, re.DOTALL)
-        entries.append(match[1] if match else "not an entry: " + line)
-    return entries
+    return [re.sub(r"^\d{4}/\d\d/\d\d-\d\d:\d\d:\d\d \d+ (?=[nde] )", "", line)
+            for line in read(LOG).split("\n")[:-1]]
 
 
 def mount(test, place, *arguments):
@@ -111,17 +104,13 @@ def mount_memory(test, folder, size):
 
 
 class Screen:
-    """An X server in memory, with a window manager."""
+    """An X server in memory, with a window manager, and someone at the keys."""
 
     def __init__(self, *options):
         os.makedirs("/run/user", 0o700, exist_ok=True)
         os.environ["XDG_RUNTIME_DIR"] = "/run/user"
-        ours, servers = os.pipe()
-        self.server = keep_running(
-            "Xvfb", "-displayfd", str(servers), "-noreset", "-screen", "0", "800x600x24",
-            pass_fds=[servers], stderr=subprocess.DEVNULL)
-        os.close(servers)  # so that the end of a server that couldn't start shows
-        self.display = ":" + os.read(ours, 9).decode().strip()
+        self.server, number = start_server("Xvfb", "-displayfd", "1", "-noreset", "-screen", "0", "800x600x24")
+        self.environment = os.environ | {"DISPLAY": ":" + number}
         self.options = options
         self.window_manager = None
         self._manage_windows()
@@ -129,71 +118,53 @@ class Screen:
     def _manage_windows(self):
         """Once more where that is over: the window manager ends by itself now and then, and at times
         finds no display in the moment in which the server says that it is there."""
-        while not self.window_manager or self.window_manager.poll() is not None:
-            self.window_manager = keep_running(
-                "openbox", *self.options, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                env=os.environ | {"DISPLAY": self.display})
-            # Or it may forget a window that comes at that moment.
-            await_that(lambda: self._xdotool("get_num_desktops") or self.window_manager.poll() is not None)
+        def is_there():
+            if not self.window_manager or self.window_manager.poll() is not None:
+                self.window_manager = keep_running("openbox", *self.options, env=self.environment)
+            return self._xdotool("get_num_desktops")  # or it may forget a window that comes before
+
+        await_that(is_there)
+
+    def run(self, *command):
+        """What a program says that looks at the screen, or changes something there."""
+        return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                              env=self.environment, check=False).stdout
 
     def _xdotool(self, *arguments):
-        return subprocess.run(
-            ["xdotool", *arguments], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
-            env=os.environ | {"DISPLAY": self.display}).stdout
+        return self.run("xdotool", *arguments).decode().strip()
 
     def _find_windows(self, title):
         return self._xdotool("search", "--onlyvisible", "--name", f"^{title}$").split()
 
-    def has_keyboard(self, window):
-        return self._xdotool("getactivewindow").strip() == window
+    def active_title(self):
+        self._manage_windows()
+        return self._xdotool("getactivewindow", "getwindowname")
 
-    def give_keyboard(self, window):
+    def _give_keyboard(self, window):
         """As long as it is there. The window manager denies it to a window that comes while somebody
         types, and forgets to give it now and then."""
         def has_keyboard():
             self._manage_windows()
-            if self.has_keyboard(window):
+            if self._xdotool("getactivewindow") == window:
                 return True
             self._xdotool("windowactivate", window)
-            return self.size(window) is None
+            return not self._xdotool("getwindowname", window)
 
         await_that(has_keyboard)
 
     def press(self, key):
         for window in self._find_windows(INSTALLER):
-            self.give_keyboard(window)
+            self._give_keyboard(window)
         self._xdotool("key", key)
 
-    def close_window(self):
-        """What the close control in the window's frame does."""
-        self.press("alt+F4")
-
-    def find_window(self, title):
-        """Its number, once it is on the screen with that title."""
-        self._manage_windows()
-        return await_that(lambda: self._find_windows(title))[0]
-
     def await_window(self, title=INSTALLER):
-        """Finds it and gives it the keyboard."""
-        window = self.find_window(title)
-        self.give_keyboard(window)
-        return window
+        """Once it is on the screen with that title, it has the keyboard."""
+        self._manage_windows()
+        self._give_keyboard(await_that(lambda: self._find_windows(title))[0])
 
-    def size(self, window):
-        """Width and height, without the frame; none once it has gone."""
-        lines = self._xdotool("getwindowgeometry", "--shell", window).splitlines()
-        values = dict(line.split("=") for line in lines)
-        return (int(values["WIDTH"]), int(values["HEIGHT"])) if values else None
-
-    def bar(self, window):
-        """How much of the bar in the window is filled, by its colour."""
-        picture = subprocess.run(
-            ["import", "-silent", "-display", self.display, "-window", window, "-depth", "8", "rgb:-"],
-            check=True, capture_output=True).stdout
-        width, _ = self.size(window)
-        rows = [picture[start:start + 3 * width] for start in range(0, len(picture), 3 * width)]
-        blue = max(sum(row[i + 2] > row[i] + 60 for i in range(0, 3 * width, 3)) for row in rows[:110])
-        return blue / (width - 2 * MARGIN)
+    def picture(self):
+        """Of the active window: red, green and blue of each point."""
+        return self.run("import", "-window", self._xdotool("getactivewindow"), "-depth", "8", "rgb:-")
 
 
 class InstallerTest(unittest.TestCase):
@@ -201,11 +172,10 @@ class InstallerTest(unittest.TestCase):
     def setUpClass(cls):
         if not hasattr(InstallerTest, "screen"):
             InstallerTest.screen = Screen()
-            os.environ["DISPLAY"] = InstallerTest.screen.display
+            os.environ.update(InstallerTest.screen.environment)
 
     def setUp(self):
-        for path in BUNDLE, LOG, SOURCE:
-            remove(path)
+        remove(BUNDLE, LOG, SOURCE)
         os.mkdir(SOURCE)
 
     def start(self, *arguments, command=(os.environ["INSTALLER"],), **options):
@@ -226,11 +196,13 @@ class InstallerTest(unittest.TestCase):
         return read_log()
 
     def expect_same(self, found, tree):
-        wrong = {path for path, _ in found.items() ^ tree.items()}
-        self.assertEqual(len(wrong), 0, f"such as “{min(wrong, default='')}”")
+        """Told without the contents, which may be large."""
+        self.assertEqual(sorted(path for path, _ in found.items() ^ tree.items()), [])
 
     def press_until_closed(self, installer, key="Return"):
-        self.screen.await_window()
-        while installer.poll() is None:
-            self.screen.press(key)
+        try:
+            self.screen.await_window()
+            await_that(lambda: installer.poll() is not None or self.screen.press(key))
+        except TimeoutError:
+            self.fail(f"“{self.screen.active_title()}” is on the screen, and the log ends in {read_log()[-3:]}")
         self.expect_orderly_end(installer)

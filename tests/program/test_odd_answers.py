@@ -1,13 +1,11 @@
-"""A disk service that refuses, or answers with other types than documented, each on a bus of its own."""
+"""A disk service that refuses, or answers with other types than documented."""
 
 import os
-import re
-import resource
 import threading
-import time
+from resource import RLIMIT_DATA, setrlimit
 
-from disks import DetachTest, DiskImage, run
-from machine import GI, await_that, read, read_log, require, start_bus
+from disks import DetachTest, DiskImage
+from machine import GI, LOG, read_log, remove, require, start_bus
 
 try:
     from gi.repository import Gio, GLib
@@ -17,83 +15,65 @@ except ImportError:
 SERVICE = "org.freedesktop.UDisks2"
 DISK = "/org/freedesktop/UDisks2"  # a device, its drive and their manager in one
 METHODS = """<node>
-  <interface name="org.freedesktop.DBus.ObjectManager">
-    <method name="GetManagedObjects"/></interface>
+  <interface name="org.freedesktop.DBus.ObjectManager"><method name="GetManagedObjects"/></interface>
   <interface name="org.freedesktop.UDisks2.Filesystem">
     <method name="Unmount"><arg type="a{sv}" direction="in"/></method></interface>
   <interface name="org.freedesktop.UDisks2.Drive">
     <method name="Eject"><arg type="a{sv}" direction="in"/></method></interface></node>"""
-PROPERTIES = {"MountPoints": "Filesystem", "Table": "Partition", "Drive": "Block",
-              "BackingFile": "Loop", "Ejectable": "Drive"}
-ODD = (("GetManagedObjects", "()"),
-       ("GetManagedObjects", "({'a': 'b'},)"),
-       ("GetManagedObjects", "({objectpath '/a': {'a': {'a': 'a'}}},)"),
-       ("MountPoints", "[[1, 2]]"),
-       ("MountPoints", "(1, 'a')"),
-       ("Ejectable", "uint32 1"),
-       ("Ejectable", "[true]"),
-       ("bus", None),  # there is none
-       *((call, answer) for call in ("GetManagedObjects", "Unmount", "Eject") for answer in ("(true,)", None)))
-AS_NONE = ("Table", "''"), ("BackingFile", "<" * 50 + "''" + ">" * 50)  # a disk without these ejects as well
-MOST_GROWTH = 256 << 20
-
-
-class Run:
-    """With the service of a disk that can be ejected, whose answers are as documented save one."""
-
-    def __init__(self, test, image, odd=None, odd_answer=None):
-        properties = {"MountPoints": f"[b'{image.mount_point}']", "Ejectable": "true",
-                      "Drive": f"objectpath '{DISK}'", odd: odd_answer}
-        objects = ", ".join(f"'{SERVICE}.{interface}': {{'{name}': <{properties[name]}>}}"
-                            for name, interface in PROPERTIES.items() if name in properties)
-        self.answers = {"GetManagedObjects": f"({{objectpath '{DISK}': {{{objects}}}}},)",
-                        "Unmount": "()", "Eject": "()", odd: odd_answer}
-        self.is_asked = odd == "bus"
-        address = "unix:path=/nowhere" if self.is_asked else start_bus()
-        if not self.is_asked:
-            kind = Gio.DBusConnectionFlags
-            connection = Gio.DBusConnection.new_for_address_sync(
-                address, kind.AUTHENTICATION_CLIENT | kind.MESSAGE_BUS_CONNECTION, None, None)
-            for interface in Gio.DBusNodeInfo.new_for_xml(METHODS).interfaces:
-                connection.register_object(DISK, interface, self._answer, None, None)
-            Gio.bus_own_name_on_connection(connection, SERVICE, 0, None, None)
-        self.installer = test.start(
-            "-install2", image.bundle, env=os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": address})
-
-    def _answer(self, connection, _sender, _path, _interface, method, _options, question):
-        if not self.is_asked:
-            status = read(f"/proc/{self.installer.pid}/status")
-            most = int(re.search(r"VmData:\s+(\d+)", status)[1]) * 1024 + MOST_GROWTH
-            resource.prlimit(self.installer.pid, resource.RLIMIT_DATA, (most, most))
-        self.is_asked = True
-        answer = Gio.DBusMessage.new_method_reply(question.get_message())
-        if self.answers[method]:
-            answer.set_body(GLib.Variant.parse(None, self.answers[method], None, None))
-        else:
-            answer = question.get_message().new_method_error_literal(SERVICE + ".Error.Failed", "no")
-        connection.send_message(answer, Gio.DBusSendMessageFlags.NONE)
+MOST_MEMORY = 1 << 30
+PLACE = "[b'/Volumes/quillbarn installer']"
+OBJECTS = """({objectpath '/org/freedesktop/UDisks2': {
+  'org.freedesktop.UDisks2.Filesystem': {'MountPoints': <PLACE>},
+  'org.freedesktop.UDisks2.Drive': {'Ejectable': <true>},
+  'org.freedesktop.UDisks2.Block': {'Drive': <objectpath '/org/freedesktop/UDisks2'>}}},)""".replace("PLACE", PLACE)
+ANSWERS = {"GetManagedObjects": OBJECTS, "Unmount": "()", "Eject": "()"}
+# Of another type, they are as none.
+MORE = f"""'org.freedesktop.UDisks2.Partition': {{'Table': <''>}},
+  'org.freedesktop.UDisks2.Loop': {{'BackingFile': {'<' * 50}''{'>' * 50}}}, 'org.freedesktop.UDisks2.Drive'"""
+ODD = (*(("GetManagedObjects", answer) for answer in (
+           "()", "({'a': 'b'},)", "({objectpath '/a': {'a': {'a': 'a'}}},)", OBJECTS.replace(PLACE, "[[1, 2]]"),
+           OBJECTS.replace(PLACE, "(1, 'a')"), OBJECTS.replace("true", "uint32 1"), OBJECTS.replace("true", "[true]"))),
+       *((method, answer) for method in ANSWERS for answer in ("(true,)", None)))  # None: it refuses
 
 
 class OddAnswers(DetachTest):
-    maxDiff = None
-
     @classmethod
     def setUpClass(cls):
         require(GI)
         super().setUpClass()
+        cls.bus = start_bus()
+        kind = Gio.DBusConnectionFlags
+        cls.connection = Gio.DBusConnection.new_for_address_sync(
+            cls.bus, kind.AUTHENTICATION_CLIENT | kind.MESSAGE_BUS_CONNECTION, None, None)
+        for interface in Gio.DBusNodeInfo.new_for_xml(METHODS).interfaces:
+            cls.connection.register_object(DISK, interface, cls._answer, None, None)
+        Gio.bus_own_name_on_connection(cls.connection, SERVICE, 0, None, None)
+        threading.Thread(target=GLib.MainLoop().run, daemon=True).start()
+
+    @classmethod
+    def _answer(cls, connection, _sender, _path, _interface, method, _options, question):
+        answer = Gio.DBusMessage.new_method_reply(question.get_message())
+        if cls.answers[method]:
+            answer.set_body(GLib.Variant.parse(None, cls.answers[method], None, None))
+        else:
+            answer = question.get_message().new_method_error_literal(SERVICE + ".Error.Failed", "no")
+        connection.send_message(answer, Gio.DBusSendMessageFlags.NONE)
+
+    def start_with(self, method, odd):
+        type(self).answers = ANSWERS | {method: odd}
+        return self.start("-install2", "/Volumes/quillbarn installer/quillbarn.app",
+                          env=os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": self.bus},
+                          preexec_fn=lambda: setrlimit(RLIMIT_DATA, (MOST_MEMORY, MOST_MEMORY)))
 
     def test_each_is_a_refusal(self):
-        threading.Thread(target=GLib.MainLoop().run, daemon=True).start()
         image = DiskImage(self)
-        runs = {odd: Run(self, image, *odd) for odd in ((), *AS_NONE, *ODD)}
-        await_that(lambda: all(each.is_asked for each in runs.values()))
-        for odd in (), *AS_NONE:
-            runs[odd].installer.wait(20)
-        time.sleep(2)  # for what each does about its answer
-        states = {odd: each.installer.poll() for odd, each in runs.items()}
-        self.assertEqual(states, dict.fromkeys(((), *AS_NONE), 0) | dict.fromkeys(ODD))  # the rest wait for another attempt
-        run("umount", "--lazy", image.mount_point)
-        for each in runs.values():
-            self.assertEqual(each.installer.wait(20), 0)
-        granted = self.log_of(image, "d failed")  # as nothing was done
-        self.assertCountEqual(read_log(), granted * (1 + len(AS_NONE)) + self.log_of(image) * len(ODD))
+        for objects in OBJECTS, OBJECTS.replace("'org.freedesktop.UDisks2.Drive'", MORE):
+            with self.subTest(objects=objects):
+                remove(LOG)
+                self.expect_orderly_end(self.start_with("GetManagedObjects", objects))
+                self.assertEqual(read_log(), self.log_of(image, "d failed"))  # as nothing was done
+        for row in ODD:
+            with self.subTest(row):
+                installer = self.start_with(*row)
+                self.screen.await_window("Ejecting the disk image: waiting for the volume to be free")
+                installer.kill()
