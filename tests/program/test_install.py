@@ -2,75 +2,56 @@ import os
 
 from machine import BUNDLE, SOURCE, InstallerTest, read_tree, remove, write
 
+NEW = SOURCE + "quillbarn.app"
 
-def entries_of(parent):
-    """What a listing of the bundle in `parent` holds, in its order: links are followed."""
-    def walk(folder):
-        for name in os.listdir(folder):
-            path = os.path.join(folder, name)
-            if os.path.exists(path):
-                yield path
-            if os.path.isdir(path):
-                yield from walk(path)
 
-    return [parent + "quillbarn.app", *walk(parent + "quillbarn.app")]
+def entries_of(folder):
+    """The listing of a bundle, in its order, with what is a folder: links are followed."""
+    yield folder, True
+    for name in os.listdir(folder):
+        path = f"{folder}/{name}"
+        if os.path.isdir(path):
+            yield from entries_of(path)
+        elif os.path.exists(path):
+            yield path, False
 
 
 def created():
     """The log of the creation of what is in the source."""
-    return [("d mkdir " if os.path.isdir(path) else "d  copy ") + "/Applications/"
-            + path[len(SOURCE):].replace("\n", "\\n") for path in entries_of(SOURCE)]
+    return [("d mkdir " if is_folder else "d  copy ") + path.replace(NEW, BUNDLE, 1).replace("\n", "\\n")
+            for path, is_folder in entries_of(NEW)]
 
 
 def removed():
     """The log of the removal of what is installed."""
-    return ["d remove " + path + ("/" if os.path.isdir(path) else "")
-            for path in reversed(entries_of("/Applications/"))]
+    return [f"d remove {path}{'/' * is_folder}".replace("\n", "\\n") for path, is_folder in entries_of(BUNDLE)][::-1]
 
 
 class Install(InstallerTest):
-    START = ["n installer start", "d install " + SOURCE, "n install bundle"]
-    UNINSTALL = ["n installer start", "d uninstall ", "n uninstall bundle"]
-    END = ["d completed", "n installer exit"]
+    def expect(self, *arguments, told, steps, **options):
+        self.assertEqual(self.run_installer(*arguments, **options), [
+            "n installer start", "d " + told, f"n {told.split()[0]} bundle", *steps, "d completed", "n installer exit"])
 
-    def test_installs_replaces_and_removes_a_bundle(self):
-        write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "first")
-        write(SOURCE + "quillbarn.app/Contents/old/only")
-        self.assertEqual(
-            self.run_installer("-install", SOURCE), self.START + created() + self.END)
-        self.assertEqual(read_tree(BUNDLE), read_tree(SOURCE + "quillbarn.app"))
+    def test_installs_replaces_and_removes_whatever_a_bundle_holds(self):
+        for name in "Contents/old/only", ".hidden/.file", "line\nfeed", "not \udcff UTF-8/\udcfe", " ", "練習":
+            write(f"{NEW}/{name}", name)
+        os.mkdir(NEW + "/empty")
+        for link, target in ("link", " "), ("link to a folder", ".hidden"), ("dangling", "nowhere"):
+            os.symlink(target, f"{NEW}/{link}")
+        wanted = read_tree(NEW)
+        del wanted["dangling"]
+        wanted |= {"link to a folder": None, "link to a folder/.file": ".hidden/.file"}
+        self.expect("-install", SOURCE, told="install " + SOURCE, steps=created())
+        self.assertEqual(read_tree(BUNDLE), wanted)
 
-        remove(SOURCE + "quillbarn.app/Contents/old")
-        write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "second")
-        emptied = removed()[:-1]
-        self.assertEqual(
-            self.run_installer("'-install'", "''", cwd=SOURCE),  # an empty path is the working folder
-            ["n installer start", "d install ", "n install bundle", *emptied, *created(), *self.END])
-        self.assertEqual(read_tree(BUNDLE), read_tree(SOURCE + "quillbarn.app"))
+        remove(NEW)
+        write(NEW + "/Contents/MacOS/quillbarn", "second")
+        # An empty path is the working folder.
+        self.expect("'-install'", "''", cwd=SOURCE, told="install ", steps=removed()[:-1] + created())
+        self.assertEqual(read_tree(BUNDLE), read_tree(NEW))
 
         for name, target in ("Versions", "Contents"), ("program", "Versions/MacOS/quillbarn"):
             os.symlink(target, f"{BUNDLE}/{name}")
         for left in removed(), []:
-            self.assertEqual(self.run_installer("-uninstall"), self.UNINSTALL + left + self.END)
+            self.expect("-uninstall", told="uninstall ", steps=left)
             self.assertEqual(os.listdir("/Applications"), [])
-
-    def test_carries_over_whatever_a_bundle_holds(self):
-        bundle = SOURCE + "quillbarn.app/"
-        for name in ".hidden/.file", "line\nfeed", "not \udcff UTF-8/\udcfe", " ", "練習":
-            write(bundle + name, name)
-        os.mkdir(bundle + "empty")
-        os.chmod(bundle + "練習", 0o751)
-        os.utime(bundle + "練習", ns=(1, 2))
-        os.symlink(" ", bundle + "link")
-        os.symlink(".hidden", bundle + "link to a folder")
-        os.symlink("nowhere", bundle + "dangling")
-
-        log = self.run_installer("-install", SOURCE)
-        self.assertEqual(log, self.START + created() + self.END)
-        expected = read_tree(bundle)
-        del expected["dangling"]
-        expected["link to a folder"] = None
-        expected["link to a folder/.file"] = ".hidden/.file"
-        self.assertEqual(read_tree(BUNDLE), expected)
-        status = os.stat(BUNDLE + "/練習")
-        self.assertEqual((status.st_mode & 0o7777, status.st_mtime_ns), (0o751, 2))

@@ -21,28 +21,21 @@ def draw(bundle, content):
 
 
 class Kill(InstallerTest):
-    """It comes at every moment of a run: what is there is whole, and the next run goes on from it."""
-
-    def kill(self, option, installed, steps):
-        for path in BUNDLE, LOG:
-            remove(path)
-        if installed:
-            shutil.copytree(installed, BUNDLE, symlinks=True)
-        installer = self.start(*option)
-        await_that(lambda: os.path.exists(LOG) and read(LOG).count("\n") >= 3 + steps, pause=0)
-        time.sleep(random.random() * 0.002)  # as long as a large file takes
-        installer.kill()
-        installer.wait()
-
-    def test_at_every_moment(self):
-        remove(OLD)
-        old, new, held = draw(OLD, "old"), draw(NEW, "new"), 0
-        scenarios = ((INSTALL, None, len(new)), (UNINSTALL, OLD, len(old)),
-                     (INSTALL, OLD, len(old) + len(new)))
+    def test_what_is_there_is_whole_at_every_moment_and_the_next_run_goes_on_from_it(self):
+        old, new = draw(OLD, "old"), draw(NEW, "new")
+        scenarios = ((INSTALL, False, len(new)), (UNINSTALL, True, len(old)), (INSTALL, True, len(old) + len(new)))
         for number in range(KILLS):
-            option, installed, steps = scenarios[number % 3]
-            with self.subTest(number=number, option=option, installed=installed):
-                self.kill(option, installed, steps * number // KILLS)
+            option, is_installed, steps = scenarios[number % 3]
+            with self.subTest(number=number, option=option, is_installed=is_installed):
+                remove(BUNDLE, LOG)
+                if is_installed:
+                    shutil.copytree(OLD, BUNDLE, symlinks=True)
+                installer = self.start(*option)
+                lines = 3 + steps * number // KILLS
+                await_that(lambda: os.path.exists(LOG) and read(LOG).count("\n") >= lines, pause=0)
+                time.sleep(random.random() * 0.002)  # as long as a large file takes
+                installer.kill()
+                installer.wait()
                 self.assertLessEqual(set(os.listdir("/Applications")), {"quillbarn.app"})
                 self.assertLessEqual(read_tree(BUNDLE).items(), old.items() | new.items())
                 for entry in read_log():
@@ -51,5 +44,3 @@ class Kill(InstallerTest):
                     option, tree = (UNINSTALL, {}) if number % 4 == 3 else (INSTALL, new)
                     self.assertEqual(self.run_installer(*option)[-2], "d completed")
                     self.assertEqual((read_tree(BUNDLE), os.path.exists(BUNDLE)), (tree, bool(tree)))
-                held += 1
-        print(f"kill matrix: {KILLS} tried, {held} held", flush=True)
