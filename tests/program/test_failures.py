@@ -1,4 +1,3 @@
-import fcntl
 import os
 import subprocess
 from resource import RLIMIT_FSIZE, setrlimit
@@ -7,7 +6,6 @@ from machine import BUNDLE, LOG, SOURCE, InstallerTest, mount, mount_memory, rea
 
 FILE = "quillbarn.app/Contents/file"
 INSTALL, UNINSTALL = ("-install", SOURCE), ("-uninstall",)
-SOMEBODY = "setpriv", "--reuid=65534", "--clear-groups", os.environ["INSTALLER"]
 
 
 class Failure(InstallerTest):
@@ -31,13 +29,11 @@ class Failure(InstallerTest):
 
     def test_a_source_that_holds_itself_or_what_is_installed(self):
         write(BUNDLE + "/folder/file")
-        mount(self, "/tmp/mounted", "--bind", "/Applications")
         mount(self, "/tmp/partly/quillbarn.app/mounted", "--bind", BUNDLE + "/folder")
-        for source, name in ("/tmp/link/", ""), ("/tmp/linked/", "/link"):
-            os.makedirs(os.path.dirname(source + "quillbarn.app" + name), exist_ok=True)
-            os.symlink(BUNDLE, source + "quillbarn.app" + name)
-        for source, name, same in (("/Applications/", "", ""), ("/tmp/link/", "", ""), ("/tmp/linked/", "/link", ""),
-                                   ("/tmp/mounted/", "", ""), ("/tmp/partly/", "/mounted", "/folder")):
+        os.makedirs("/tmp/linked/quillbarn.app")
+        os.symlink(BUNDLE, "/tmp/linked/quillbarn.app/link")
+        for source, name, same in (("/Applications/", "", ""), ("/tmp/linked/", "/link", ""),
+                                   ("/tmp/partly/", "/mounted", "/folder")):
             self.expect(f"“{source}quillbarn.app{name}” couldn’t be installed because it is “{BUNDLE}{same}”, "
                         "which would be emptied first.", ("-install", source))
         os.symlink("..", SOURCE + "quillbarn.app/Contents/loop")
@@ -52,27 +48,16 @@ class Failure(InstallerTest):
             preexec_fn=lambda: setrlimit(RLIMIT_FSIZE, (1_000_000, 1_000_000)))
 
     def test_what_cannot_be_removed(self):
-        kept = {"step": f"d remove {BUNDLE}/kept"}
-        self.expect(f"“{BUNDLE}/kept” couldn’t be removed because you don’t have permission to access it "
-                    f"(Permission denied). Only “root” may write in “{BUNDLE}”: start the installer as one who "
-                    "may.", command=SOMEBODY, env=os.environ | {"XDG_RUNTIME_DIR": ""}, **kept)
-        remove(LOG)  # which is somebody's
-        remove(BUNDLE)
         write("/tmp/outside/file")
         mount(self, BUNDLE + "/mounted", "--bind", "/tmp/outside")
+        remove(BUNDLE + "/kept")
         self.expect(f"“{BUNDLE}/mounted/file” couldn’t be removed because it lies on another volume, which is "
                     "mounted there (Invalid cross-device link).", step=f"d remove {BUNDLE}/mounted/file")
         mount_memory(self, "/Applications", "1m")
         write(BUNDLE + "/kept", "installed")
         subprocess.run(["mount", "-o", "remount,ro", "/Applications"], check=True)
         self.expect(f"“{BUNDLE}/kept” couldn’t be removed because the volume is read only (Read-only file "
-                    "system).", key="Escape", **kept)
-
-    def test_another_program_is_at_work(self):
-        folder = os.open("/Applications", os.O_RDONLY)
-        self.addCleanup(os.close, folder)
-        fcntl.flock(folder, fcntl.LOCK_EX)
-        self.expect("The folder “/Applications/” couldn’t be opened because another program holds it locked.")
+                    "system).", step=f"d remove {BUNDLE}/kept", key="Escape")
 
     def test_something_else_in_the_place_of_the_bundle(self):
         outside = "/tmp/outside"
