@@ -10,7 +10,6 @@ from machine import SOURCE, InstallerTest, mount, read_tree, remove, write
 
 NAME = "quillbarninstaller"
 FOLDER = pathlib.Path("/Applications")
-ADMINISTRATOR = "runuser", "-u", "admin", "--", NAME
 
 
 def dpkg(*arguments):
@@ -18,18 +17,26 @@ def dpkg(*arguments):
     run("dpkg", "--no-triggers", *arguments)
 
 
-def install():
-    dpkg("--install", os.environ["PACKAGE"])
+def make_folder(group="root", mode="755"):
+    remove(FOLDER)
+    run("install", "-d", "-g", group, "-m", mode, FOLDER)
 
 
-def access():
-    return f"{FOLDER.owner()}:{FOLDER.group()} {FOLDER.stat().st_mode & 0o7777:o}"
-
-
-def traces():
-    """Of the program in the system."""
-    return {path for top in ("/etc", "/usr", "/var/lib")
-            for path in pathlib.Path(top).rglob(f"*{NAME}*")}
+STEPS = {"install": lambda: dpkg("--install", os.environ["PACKAGE"]), "remove": lambda: dpkg("--remove", NAME),
+         "purge": lambda: dpkg("--purge", NAME), "fill": lambda: write(f"{FOLDER}/file"),
+         "empty": lambda: remove(f"{FOLDER}/file"), "make": make_folder,
+         "make private": lambda: make_folder(mode="700"), "make alike": lambda: make_folder("sudo", "2775"),
+         "drop the group": lambda: run("groupdel", "sudo")}
+MADE = "root:sudo 2775"
+# What is done, and what the folder is then; or None: it is not there.
+CASES = (
+    ("install", MADE), ("install, remove", None), ("install, install", MADE), ("install, install, purge", None),
+    ("install, remove, install, purge", None), ("install, fill, remove", MADE), ("install, fill, purge", MADE),
+    ("install, fill, remove, empty, purge", None), ("install, fill, remove, install, empty, purge", None),
+    ("install, make, purge", "root:root 755"),
+    ("install, fill, remove, make, install, purge", "root:root 755"),
+    ("make private, install", "root:root 700"), ("make private, install, purge", "root:root 700"),
+    ("make alike, install, purge", MADE), ("drop the group, install", "root:root 2775"))
 
 
 class Package(InstallerTest):
@@ -40,57 +47,34 @@ class Package(InstallerTest):
             mount(self, folder, "-t", "overlay",
                   "-o", f"lowerdir={folder},upperdir={upper},workdir={work}", "none")
         dpkg("--purge", NAME)  # which may have been tried out
-        remove(FOLDER)
         super().setUp()
 
-    def test_administrators_install_without_root_and_nothing_stays(self):
-        before = traces()
-        install()
-        self.assertEqual(access(), "root:sudo 2775")
-        self.assertGreater(traces(), before)
-
+    def test_administrators_install_without_root(self):
         run("useradd", "--groups", "sudo", "admin")
+        administrator = "runuser", "-u", "admin", "--", NAME
+        remove(FOLDER)
+        STEPS["install"]()
         write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "the program")
-        bundle = read_tree(SOURCE)
-        self.run_installer("-install", SOURCE, command=ADMINISTRATOR)
-        self.assertEqual(read_tree(FOLDER), bundle)
-        dpkg("--remove", NAME)
-        self.assertEqual(read_tree(FOLDER), bundle)
+        self.run_installer("-install", SOURCE, command=administrator)
+        self.assertEqual(read_tree(FOLDER), read_tree(SOURCE))
+        self.run_installer("-uninstall", command=administrator)
+        self.assertEqual(read_tree(FOLDER), {})
 
-        install()
-        self.run_installer("-uninstall", command=ADMINISTRATOR)
-        dpkg("--purge", NAME)
-        self.assertEqual(traces(), before)
-        self.assertFalse(FOLDER.exists())
+    def test_the_folder_goes_with_the_package_that_made_it_and_all_else_in_any_case(self):
+        def traces():
+            """Of the program in the system."""
+            return {path for top in ("/etc", "/usr", "/var/lib")
+                    for path in pathlib.Path(top).rglob(f"*{NAME}*")}
 
-    def test_the_folder_goes_with_the_package_that_made_it_whatever_came_between(self):
         before = traces()
-        steps = {"install": install, "remove": lambda: dpkg("--remove", NAME),
-                 "fill": lambda: write(f"{FOLDER}/file"), "empty": lambda: remove(f"{FOLDER}/file"),
-                 "make anew": lambda: FOLDER.rmdir() or FOLDER.mkdir()}
-        for between in ([], ["install"], ["remove"], ["remove", "install"], ["fill"],
-                        ["fill", "remove", "empty"], ["fill", "remove", "install", "empty"],
-                        ["make anew"], ["fill", "remove", "empty", "make anew", "install"]):
-            with self.subTest(between=between):
-                install()
-                for step in between:
-                    steps[step]()
-                dpkg("--purge", NAME)
-                self.assertEqual(FOLDER.exists(), bool({"make anew"} & {*between}) or between == ["fill"])
+        for steps, left in CASES:
+            with self.subTest(steps):
+                remove(FOLDER)
+                for step in steps.split(", "):
+                    STEPS[step]()
+                there = FOLDER.exists() and f"{FOLDER.owner()}:{FOLDER.group()} {FOLDER.stat().st_mode & 0o7777:o}"
+                self.assertEqual(there or None, left)
+                STEPS["purge"]()
                 self.assertEqual(traces(), before)
-                remove(FOLDER)
-
-    def test_a_folder_that_was_there_is_left_alone(self):
-        for group, mode in ("root", "700"), ("sudo", "2775"):  # the latter as the package makes it
-            with self.subTest(group=group, mode=mode):
-                run("install", "-d", "-g", group, "-m", mode, FOLDER)
-                install()
-                self.assertEqual(access(), f"root:{group} {mode}")
-                dpkg("--purge", NAME)
-                self.assertEqual(access(), f"root:{group} {mode}")
-                remove(FOLDER)
-
-    def test_without_the_group_of_administrators_it_is_for_root(self):
-        run("groupdel", "sudo")
-        install()
-        self.assertEqual(access(), "root:root 2775")
+        STEPS["install"]()
+        self.assertGreater(traces(), before)
