@@ -12,7 +12,9 @@ class Detach(DetachTest):
                                   ("attached", "/Volumes/ü\t\\ \udcff")):
             with self.subTest(kind=kind, mount_point=mount_point):
                 image = DiskImage(self, mount_point, kind)
+                began = time.monotonic()
                 log = self.run_installer("-install2", image.bundle, cwd=image.bundle)
+                self.assertLess(time.monotonic() - began, 5)  # after which comes the second
                 self.assertEqual(log, self.log_of(image))
                 self.expect_detached(image)
 

@@ -43,10 +43,9 @@ class Log(InstallerTest):
                 write(BUNDLE + "/file")
                 put(*arguments)
                 reader = os.open(LOG if put == os.mkfifo else KEPT, os.O_RDONLY | os.O_NONBLOCK)
-                installer = self.start("-uninstall")
-                self.screen.await_window()
+                self.assertEqual(self.start("-uninstall").wait(60), 0)
+                self.assertEqual(os.read(reader, 99), b"" if put == os.mkfifo else b"kept")
                 os.close(reader)
-                self.assertEqual(installer.wait(60), 0)
                 self.assertFalse(os.path.exists(BUNDLE))
                 self.assertEqual(read_tree("/tmp/outside"), {"kept": "kept"})
                 if NEW in arguments:
