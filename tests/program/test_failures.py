@@ -1,3 +1,4 @@
+import fcntl
 import os
 import subprocess
 from resource import RLIMIT_FSIZE, setrlimit
@@ -58,6 +59,12 @@ class Failure(InstallerTest):
         subprocess.run(["mount", "-o", "remount,ro", "/Applications"], check=True)
         self.expect(f"“{BUNDLE}/kept” couldn’t be removed because the volume is read only (Read-only file "
                     "system).", step=f"d remove {BUNDLE}/kept", key="Escape")
+
+    def test_another_program_is_at_work(self):
+        folder = os.open("/Applications", os.O_RDONLY)
+        self.addCleanup(os.close, folder)
+        fcntl.flock(folder, fcntl.LOCK_EX)
+        self.expect("The folder “/Applications/” couldn’t be opened because another program holds it locked.")
 
     def test_something_else_in_the_place_of_the_bundle(self):
         outside = "/tmp/outside"
