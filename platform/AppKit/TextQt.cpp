@@ -68,7 +68,7 @@ void TextQt::goTo(int row)
     QScrollBar& bar = *verticalScrollBar();
     const bool isEnd = row >= bar.maximum();
     bar.setValue(row);
-    for (int end = -1; isEnd && end != bar.maximum();) {
+    for (int end = -1; isEnd && end < bar.maximum();) {
         end = bar.maximum();
         bar.setValue(end);
         QResizeEvent unchanged(size(), size());
