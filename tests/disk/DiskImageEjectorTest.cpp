@@ -6,16 +6,14 @@
 
 #include <gtest/gtest.h>
 
-using Result = DiskImageEjector::Result;
-
 TEST(DiskImageEjector, reportsEachOutcomeOnceOnTheMainThreadAfterCleaningUp)
 {
-    const auto refused = [] { return false; };
+    using Result = DiskImageEjector::Result;
     for (const auto& [service, outcome] : std::vector<std::pair<DiskArbitrationFake, Result>> {
              { { .hasSession = false }, Result::failedUnmount },
              { { .hasDisk = false }, Result::failedUnmount },
-             { { .unmount = refused }, Result::failedUnmount },
-             { { .eject = refused }, Result::failedEject },
+             { { .refusals = 1 }, Result::failedUnmount },
+             { { .isEjected = false }, Result::failedEject },
              { {}, Result::succeeded },
          }) {
         diskArbitration = service;
@@ -24,7 +22,7 @@ TEST(DiskImageEjector, reportsEachOutcomeOnceOnTheMainThreadAfterCleaningUp)
         const std::weak_ptr<DiskImageEjector> weak = ejector;
         ejector->eject(NSURL::fileURLWithPath("/Volumes/x/"), [&](Result result) {
             EXPECT_TRUE(NSThread::isMainThread());
-            EXPECT_EQ(heldSessions, 0);
+            EXPECT_TRUE(diskArbitration.session.expired());
             results.push_back(result);
         });
         EXPECT_TRUE(results.empty()) << "before eject() returned";

@@ -3,76 +3,68 @@
 #include <Dispatch/DispatchQueue.h>
 #include <Foundation/NSRunLoop.h>
 
-class DASession {
-public:
-    DASession() { ++heldSessions; }
-    ~DASession() { --heldSessions; }
+#include <filesystem>
 
-    CFRunLoopRef runLoop = nullptr;
-};
+class DASession {};
 
 class DADisk {
 public:
-    explicit DADisk(DASessionRef owner)
-        : session(std::move(owner))
-    {
-    }
-
-    const DASessionRef session;
+    DASessionRef session;
 };
+
+static DASessionRef scheduled; // with the main thread's loop
 
 DASessionRef DASessionCreate(CFAllocatorRef)
 {
-    return diskArbitration.hasSession ? std::make_shared<DASession>() : nullptr;
+    const auto session = diskArbitration.hasSession ? std::make_shared<DASession>() : nullptr;
+    diskArbitration.session = session;
+    return session;
 }
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session, const NSURL&)
 {
-    return diskArbitration.hasDisk ? std::make_shared<DADisk>(session) : nullptr;
+    return DADiskRef(diskArbitration.hasDisk ? new DADisk { session } : nullptr);
 }
 
 void DASessionScheduleWithRunLoop(const DASessionRef& session, CFRunLoopRef runLoop, CFRunLoopMode)
 {
-    ++heldSessions;
-    session->runLoop = runLoop;
+    if (runLoop == NSRunLoop::mainRunLoop().getCFRunLoop())
+        scheduled = session;
 }
 
-void DASessionUnscheduleFromRunLoop(const DASessionRef& session, CFRunLoopRef, CFRunLoopMode)
+void DASessionUnscheduleFromRunLoop(const DASessionRef&, CFRunLoopRef, CFRunLoopMode)
 {
-    --heldSessions;
-    session->runLoop = nullptr;
+    scheduled = nullptr;
 }
-
-namespace {
 
 // Passes the disk on without keeping it, so that its release shows. A callback without context has
 // no request.
-void answer(const DADiskRef& disk, const std::function<bool()>& isGranted,
-    DADiskUnmountCallback callback, void* context)
+static void answer(
+    const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
 {
     callback(disk, nullptr, nullptr);
-    if (disk->session->runLoop != NSRunLoop::mainRunLoop().getCFRunLoop())
+    if (disk->session != scheduled)
         return;
-    DispatchQueue::main().async(
-        [borrowed = DADiskRef(DADiskRef(), disk.get()), isGranted, callback, context] {
-            const DADissenter dissenter;
-            const bool isRefused = !isGranted();
-            diskArbitration.isInCallback = true;
-            callback(borrowed, isRefused ? &dissenter : nullptr, context);
-            diskArbitration.isInCallback = false;
-        });
-}
-
+    const DADiskRef borrowed(DADiskRef(), disk.get());
+    DispatchQueue::main().async([borrowed, isGranted, callback, context] {
+        const DADissenter dissenter;
+        diskArbitration.isInCallback = true;
+        callback(borrowed, isGranted ? nullptr : &dissenter, context);
+        diskArbitration.isInCallback = false;
+    });
 }
 
 void DADiskUnmount(
     const DADiskRef& disk, DADiskUnmountOptions, DADiskUnmountCallback callback, void* context)
 {
-    answer(disk, diskArbitration.unmount, callback, context);
+    const bool isGranted = diskArbitration.refusals-- <= 0;
+    if (isGranted && diskArbitration.holdsBundle)
+        std::filesystem::remove_all("/Applications/quillbarn.app");
+    answer(disk, isGranted, callback, context);
 }
 
 void DADiskEject(
     const DADiskRef& disk, DADiskEjectOptions, DADiskEjectCallback callback, void* context)
 {
-    answer(disk, diskArbitration.eject, callback, context);
+    answer(disk, diskArbitration.isEjected, callback, context);
 }

@@ -2,22 +2,18 @@
 
 #include <DiskArbitration/DADisk.h>
 
-#include <atomic>
-#include <functional>
-
 // A disk service that does what the test says.
 struct DiskArbitrationFake {
     bool hasSession = true;
     bool hasDisk = true;
-    std::function<bool()> unmount = [] { return true; }; // whether it is granted
-    std::function<bool()> eject = [] { return true; };
+    int refusals = 0; // to unmount
+    bool holdsBundle = true; // the volume: with it the one in the applications folder goes
+    bool isEjected = true;
 
     bool isInCallback = false;
+    std::weak_ptr<DASession> session = {}; // the last; a disk holds its own, and so does a schedule
 };
 
 // The one that answers. A request is answered by the main thread's loop, if the session is
 // scheduled there.
 inline DiskArbitrationFake diskArbitration;
-
-// How many sessions there are, and schedules of theirs. A disk holds its session.
-inline std::atomic<int> heldSessions;

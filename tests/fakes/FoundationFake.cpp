@@ -35,7 +35,6 @@ void NSThread::sleepForTimeInterval(double seconds)
 std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKeys(
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const
 {
-    ++foundation.mountPointsAsked;
     std::vector<NSURL> volumes;
     for (const std::string& mountPoint : foundation.mountPoints)
         volumes.push_back(NSURL::fileURLWithPath(mountPoint));

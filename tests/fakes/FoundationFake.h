@@ -8,7 +8,6 @@
 struct FoundationFake {
     std::vector<std::string> arguments = {};
     std::vector<std::string> mountPoints = {};
-    int mountPointsAsked = 0; // how often
 
     // Called on a thread that is to make a pause of so many seconds. No pause is made.
     std::function<void(double)> onPause = [](double) {};

@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
             if (found.exists())
                 expected.push_back(found.path().lexically_relative(bundle));
         assert(std::ranges::equal(listed, expected, {}, &BundleTree::File::path));
-        RecordedReport report([] { return ""; });
+        RecordedReport report;
         BundleTask(report, apps, "bundle", DryRun::no).removeBundle(TopFolder::include, nullptr);
         assert(fs::is_empty(apps));
     } catch (const NSError&) {
