@@ -31,11 +31,11 @@ struct TestWindow {
     {
         return runMainLoopUntil([this] { return button.isDefault(); });
     }
-    bool isOpening() const { return animation.state() == QAbstractAnimation::Running; }
     bool awaitEnd() const
     {
         return runMainLoopUntil([this] { return window->isHidden(); });
     }
+    bool isOpening() const { return animation.state() == QAbstractAnimation::Running; }
 
     std::string title() const { return window->windowTitle().toStdString(); }
     std::string help() const { return button.accessibleDescription().toStdString(); }
@@ -50,18 +50,6 @@ struct TestWindow {
     }
     std::string firstRow() const { return rowAt(0); }
     std::string lastRow() const { return rowAt(text.viewport()->height() - 1); }
-
-    void press(Qt::Key key) const
-    {
-        QWidget* const focus = window->focusWidget();
-        QTest::keyClick(focus ? focus : window.get(), key);
-    }
-
-    void resize(int width, int height) const
-    {
-        window->resize(width, height);
-        QCoreApplication::processEvents();
-    }
 
     const std::shared_ptr<WindowQt> window = std::make_shared<WindowQt>();
     const std::shared_ptr<ViewController> controller = openMainInterface(*window);
