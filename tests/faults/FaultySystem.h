@@ -1,25 +1,26 @@
 #pragma once
 
+#include <cerrno>
 #include <functional>
 #include <string>
 #include <vector>
 
 constexpr int nothing = 0; // in the place of an error: the call succeeds, and has done nothing
 
-enum Part { content, mode, owner, times, attribute }; // of a file
+enum Part { mode, owner, times, attribute, content }; // of a file
 
-// A call to the system on a file, the places of its descriptor and of its path among its arguments,
-// and the errors it is to fail with.
+// A call to the system on a file, and the errors it is to fail with. An interrupted call is made
+// again.
 struct FileCall {
     const char* name;
     int number;
-    int descriptor;
-    int path;
-    std::vector<int> errors;
+    int path = 0; // its place among the arguments, after its folder's; 0: a descriptor is there
+    std::vector<int> errors = { EINTR, EIO };
     Part part = content; // that a file may go without, where that is refused
 };
 
-const std::vector<FileCall>& fileCalls();
+// With one error of each branch that the program takes.
+extern const std::vector<FileCall> fileCalls;
 
 // Each lacks what the one before it lacks, and more: nameless files; copying by itself and renaming
 // that refuses to replace.
@@ -27,9 +28,9 @@ enum class Volume { complete, plain, simple };
 
 struct Fault {
     const FileCall& call;
-    int error; // `nothing` comes again and again
-    int step; // of the calls on the files of the run, from 1
     Volume volume;
+    int error = EIO; // `nothing` comes again and again
+    int step = 0; // of the calls on the files of the run, from 1; 0: none fails
 
     // What became of it.
     int calls = 0;
