@@ -11,8 +11,8 @@ namespace {
 bool isFileWithOneName(const FileDescriptor& file)
 {
     struct stat status = {};
-    return file.isOpen() && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode)
-        && status.st_nlink == 1;
+    return file.isOpen() && uninterrupted([&] { return fstat(file.number(), &status); }) == 0
+        && S_ISREG(status.st_mode) && status.st_nlink == 1;
 }
 
 }
