@@ -1,6 +1,7 @@
 #include "WindowReport.h"
 
 #include <Dispatch/DispatchQueue.h>
+#include <Foundation/NSString.h>
 #include <Foundation/NSThread.h>
 
 #include <array>
@@ -11,13 +12,17 @@ WindowReport::WindowReport(std::shared_ptr<ViewController> controller, ViewContr
 {
 }
 
-const WindowReport::Titles& WindowReport::titlesOf(ViewController::Mode mode)
+WindowReport::Titles WindowReport::titlesOf(ViewController::Mode mode)
 {
-    static constexpr std::array<Titles, 3> titles { {
-        { "Installing quillbarn", "", "quillbarn could not be installed" },
-        { "Removing quillbarn", "", "quillbarn could not be removed" },
-        { "Ejecting the disk image", "Ejecting the disk image: waiting for the volume to be free",
-            "The disk image could not be ejected" },
+    const std::array<Titles, 3> titles { {
+        { NSLocalizedString("Titles", "Installing quillbarn"), "",
+            NSLocalizedString("Titles", "quillbarn could not be installed") },
+        { NSLocalizedString("Titles", "Removing quillbarn"), "",
+            NSLocalizedString("Titles", "quillbarn could not be removed") },
+        { NSLocalizedString("Titles", "Ejecting the disk image"),
+            NSLocalizedString(
+                "Titles", "Ejecting the disk image: waiting for the volume to be free"),
+            NSLocalizedString("Titles", "The disk image could not be ejected") },
     } };
     return titles.at(std::size_t(mode));
 }

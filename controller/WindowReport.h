@@ -24,12 +24,12 @@ public:
 
 private:
     struct Titles {
-        const char* running;
-        const char* waiting;
-        const char* failed;
+        std::string running;
+        std::string waiting;
+        std::string failed;
     };
-    static const Titles& titlesOf(ViewController::Mode mode);
+    static Titles titlesOf(ViewController::Mode mode);
 
     const std::shared_ptr<ViewController> m_controller;
-    const Titles& m_titles;
+    const Titles m_titles;
 };

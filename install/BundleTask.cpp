@@ -74,10 +74,12 @@ void BundleTask::runToEnd(const std::function<void()>& work, void (TaskReport::*
     } catch (const NSError& error) {
         return m_report.fail(error);
     } catch (const std::bad_alloc&) {
-        return m_report.fail(NSError("The run couldn’t go on because the memory is used up."));
+        return m_report.fail(NSError(
+            NSLocalizedString("Errors", "The run couldn’t go on because the memory is used up.")));
     } catch (const std::exception& error) {
         return m_report.fail(
-            NSError(std::string("The run couldn’t go on because of: ") + error.what()));
+            NSError(NSLocalizedString("Errors", "The run couldn’t go on because of: %1"),
+                { error.what() }));
     }
     NSThread::sleepForTimeInterval(pauseAtEnd);
     m_report.showMessage("completed");
@@ -117,8 +119,9 @@ BundleTask::Files BundleTask::listInstalled() const
     const std::string bundle = m_applicationDir + m_bundleDir;
     const NSFileManager& fileManager = NSFileManager::defaultManager();
     if (const auto destination = fileManager.destinationOfSymbolicLinkAtPath(bundle))
-        throw NSError("“" + bundle + "” couldn’t be changed because it is a link, to “"
-            + *destination + "”.");
+        throw NSError(
+            NSLocalizedString("Errors", "“%1” couldn’t be changed because it is a link, to “%2”."),
+            { bundle, *destination });
     if (!fileManager.fileExistsAtPath(bundle))
         return {};
     return listBundle(
@@ -131,16 +134,20 @@ void BundleTask::requireOwnFolder(
 {
     const auto same = m_sourceFolders.find(identity);
     if (same != m_sourceFolders.end())
-        throw NSError("“" + same->second + "” couldn’t be installed because it is “" + folder
-            + "”, which would be emptied first.");
+        throw NSError(
+            NSLocalizedString("Errors",
+                "“%1” couldn’t be installed because it is “%2”, which would be emptied first."),
+            { same->second, folder });
 
     if (!fileManager.destinationOfSymbolicLinkAtPath(folder))
         return;
     const std::string bundle = m_applicationDir + m_bundleDir;
     const std::string destination = fileManager.stringByResolvingSymlinksInPath(folder);
     if (!destination.starts_with(fileManager.stringByResolvingSymlinksInPath(bundle) + "/"))
-        throw NSError("“" + bundle + "” couldn’t be changed because the link “" + folder
-            + "” leads out of it, to “" + destination + "”.");
+        throw NSError(
+            NSLocalizedString("Errors",
+                "“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”."),
+            { bundle, folder, destination });
 }
 
 // A link that leads nowhere is not listed, so that it stays in the bundle's own folder when that is
@@ -156,9 +163,11 @@ void BundleTask::requireFreeName(const std::string& sourcePath, const BundleTree
         return;
     if (leadsOutOfItsFolder(*link)
         || link != fileManager.destinationOfSymbolicLinkAtPath(sourcePath + file.path))
-        throw NSError("“" + path
-            + "” couldn’t be installed because a link that leads nowhere "
-              "has its place. Uninstall first, which removes the link, too.");
+        throw NSError(
+            NSLocalizedString("Errors",
+                "“%1” couldn’t be installed because a link that leads nowhere has its place. "
+                "Uninstall first, which removes the link, too."),
+            { path });
 }
 
 void BundleTask::createEntry(const std::string& sourcePath, const BundleTree::File& file)

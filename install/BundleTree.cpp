@@ -51,8 +51,10 @@ FileIdentity TreeWalk::enter(const std::string& folder)
         = m_fileManager.fileExistsAtPath(folder, isDirectory).value_or(FileIdentity());
     const auto [known, isNew] = m_ancestors.emplace(identity, folder);
     if (!isNew)
-        throw NSError("The link “" + folder + "” couldn’t be followed because it leads back to “"
-            + known->second + "/”, a folder that holds it.");
+        throw NSError(NSLocalizedString("Errors",
+                          "The link “%1” couldn’t be followed because it leads "
+                          "back to “%2/”, a folder that holds it."),
+            { folder, known->second });
     if (m_visit)
         m_visit(m_fileManager, folder, identity);
     return identity;

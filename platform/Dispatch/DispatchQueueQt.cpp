@@ -55,7 +55,8 @@ public:
                 work();
             }).detach();
         } catch (const std::system_error& error) {
-            throw NSError(describe("The work couldn’t be started", error.code()));
+            throw failure(error, {},
+                NSLocalizedString("Errors", "The work couldn’t be started because %1 (%2)."));
         }
     }
 };

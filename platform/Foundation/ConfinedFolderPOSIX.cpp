@@ -52,12 +52,14 @@ try {
     if (!folder.isOpen())
         return;
     if (isLockedByAnother(folder))
-        throw NSError("The folder " + quoted(m_folder)
-            + " couldn’t be opened because another program holds it locked.");
+        throw NSError(
+            NSLocalizedString("Errors",
+                "The folder “%1” couldn’t be opened because another program holds it locked."),
+            { m_folder });
     m_folders = std::make_unique<OpenFolders>(std::move(folder), m_folder, Way::beneath);
 } catch (const std::system_error& reason) {
-    throw NSError(
-        describe("The folder " + quoted(m_folder) + " couldn’t be opened", reason.code()));
+    throw failure(reason, { m_folder },
+        NSLocalizedString("Errors", "The folder “%1” couldn’t be opened because %2 (%3)."));
 }
 
 void ConfinedFolder::create()
@@ -65,8 +67,8 @@ try {
     std::filesystem::create_directories(m_folder);
     open();
 } catch (const std::system_error& reason) {
-    throw NSError(describe(
-        "The folder " + quoted(m_folder) + " couldn’t be created", reason.code(), m_folder));
+    throw failureToChange(reason, { m_folder },
+        NSLocalizedString("Errors", "The folder “%1” couldn’t be created because %2 (%3)."));
 }
 
 void ConfinedFolder::createDirectoryAtPath(const std::string& path)
@@ -82,23 +84,26 @@ try {
             throw std::system_error(make_error_code(std::errc::file_exists));
     }
 } catch (const std::system_error& reason) {
-    throw NSError(
-        describe("The folder " + quoted(path) + " couldn’t be created", reason.code(), path));
+    throw failureToChange(reason, { path },
+        NSLocalizedString("Errors", "The folder “%1” couldn’t be created because %2 (%3)."));
 }
 
 void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& toPath)
 {
     const CopySource source(*m_sourceFolders, path);
-    const std::string failure = quoted(path) + " couldn’t be copied to " + quoted(toPath);
     if (!S_ISREG(source.status.st_mode) && !S_ISLNK(source.status.st_mode)
         && !S_ISDIR(source.status.st_mode))
-        throw NSError(failure + " because it is a device, a pipe or a socket.");
+        throw NSError(
+            NSLocalizedString("Errors",
+                "“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket."),
+            { path, toPath });
     try {
         if (S_ISDIR(source.status.st_mode))
             throw std::system_error(make_error_code(std::errc::is_a_directory));
         copyItem(source, m_folders->find(toPath));
     } catch (const std::system_error& reason) {
-        throw NSError(describe(failure, reason.code(), toPath));
+        throw failureToChange(reason, { path, toPath },
+            NSLocalizedString("Errors", "“%1” couldn’t be copied to “%2” because %3 (%4)."));
     }
 }
 
@@ -110,7 +115,8 @@ try {
     if (item.folder >= 0)
         removeTree(item);
 } catch (const std::system_error& reason) {
-    throw NSError(describe(quoted(path) + " couldn’t be removed", reason.code(), path));
+    throw failureToChange(
+        reason, { path }, NSLocalizedString("Errors", "“%1” couldn’t be removed because %2 (%3)."));
 }
 
 void ConfinedFolder::synchronize()
@@ -118,7 +124,7 @@ try {
     if (m_folders)
         check([&] { return syncfs(m_folders->top()); });
 } catch (const std::system_error& reason) {
-    throw NSError(
-        describe("What was changed in " + quoted(m_folder) + " couldn’t be written to the disk",
-            reason.code()));
+    throw failure(reason, { m_folder },
+        NSLocalizedString(
+            "Errors", "What was changed in “%1” couldn’t be written to the disk because %2 (%3)."));
 }

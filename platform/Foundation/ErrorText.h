@@ -4,12 +4,14 @@
 
 #include <string>
 #include <system_error>
+#include <vector>
 
-// A path as it stands in an error's text: in quotation marks.
-std::string quoted(const std::string& path);
+// A translated sentence such as "“%1” couldn’t be removed because %2 (%3).", with the arguments,
+// then the reason that the system gave, then the system's words for it.
+NSError failure(const std::system_error& reason, std::vector<std::string> arguments,
+    const std::string& sentence);
 
-// "`what` because ...", with the reason that the system gave. `what` is a clause such as
-// "“/a” couldn’t be removed". Where an item was to be changed, and not only read, its path is
-// `changed`: then it says who may, if the caller may not.
-std::string describe(
-    const std::string& what, std::error_code reason, const std::string& changed = "");
+// The same, where the last of the arguments is the path of what was to be changed: then it says who
+// may, if the caller may not.
+NSError failureToChange(const std::system_error& reason, const std::vector<std::string>& arguments,
+    const std::string& sentence);

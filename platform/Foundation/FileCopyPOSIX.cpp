@@ -134,7 +134,8 @@ try {
     else if (S_ISLNK(status.st_mode))
         link = readLink(item).value_or("");
 } catch (const std::system_error& reason) {
-    throw NSError(describe(quoted(path) + " couldn’t be read", reason.code()));
+    throw failure(
+        reason, { path }, NSLocalizedString("Errors", "“%1” couldn’t be read because %2 (%3)."));
 }
 
 void copyItem(const CopySource& source, const Item& to)

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr std::initializer_list<int> absence { ELOOP, ENOENT, ENOTDIR };
-constexpr const char* failedLook = " couldn’t be looked at";
 
 bool createNew(const std::string& path)
 {
@@ -61,7 +60,8 @@ try {
     isDirectory = S_ISDIR(status.st_mode);
     return FileIdentity { status.st_dev, status.st_ino };
 } catch (const std::system_error& reason) {
-    throw NSError(describe(quoted(path) + failedLook, reason.code()));
+    throw failure(reason, { path },
+        NSLocalizedString("Errors", "“%1” couldn’t be looked at because %2 (%3)."));
 }
 
 bool NSFileManager::fileExistsAtPath(const std::string& path) const
@@ -74,7 +74,8 @@ std::vector<std::string> NSFileManager::contentsOfDirectoryAtPath(const std::str
 try {
     return namesIn(find(path));
 } catch (const std::system_error& reason) {
-    throw NSError(describe("The folder " + quoted(path) + " couldn’t be opened", reason.code()));
+    throw failure(reason, { path },
+        NSLocalizedString("Errors", "The folder “%1” couldn’t be opened because %2 (%3)."));
 }
 
 std::optional<std::string> NSFileManager::destinationOfSymbolicLinkAtPath(
@@ -82,7 +83,8 @@ std::optional<std::string> NSFileManager::destinationOfSymbolicLinkAtPath(
 try {
     return readLink(find(path));
 } catch (const std::system_error& reason) {
-    throw NSError(describe(quoted(path) + failedLook, reason.code()));
+    throw failure(reason, { path },
+        NSLocalizedString("Errors", "“%1” couldn’t be looked at because %2 (%3)."));
 }
 
 // The kernel names what it has opened in one step; asking for each part of the path in turn, as

@@ -1,5 +1,6 @@
 #include <Foundation/NSString.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QTextBoundaryFinder>
 
@@ -42,4 +43,21 @@ bool NSString::hasSuffix(std::string_view text, std::string_view suffix)
     const QString whole = decomposed(text);
     const QString end = decomposed(suffix);
     return whole.endsWith(end) && isBoundary(whole, whole.size() - end.size());
+}
+
+std::string NSString::stringWithFormat(
+    const std::string& format, const std::vector<std::string>& arguments)
+{
+    std::string text;
+    for (std::size_t i = 0; i < format.size(); ++i)
+        if (format[i] == '%' && std::size_t(format[i + 1] - '1') < arguments.size())
+            text += arguments[std::size_t(format[++i] - '1')];
+        else
+            text += format[i];
+    return text;
+}
+
+std::string NSLocalizedString(const char* table, const char* key)
+{
+    return QCoreApplication::translate(table, key).toStdString();
 }

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <string>
-#include <utility>
+#include <Foundation/NSString.h>
 
 // Why an operation failed, in words for the person at the window. A value; what the product throws.
 class NSError {
 public:
-    NSError() = default;
-    explicit NSError(std::string localizedDescription)
-        : m_localizedDescription(std::move(localizedDescription))
+    // The description with the arguments in its places, as NSString has them.
+    explicit NSError(const std::string& format, const std::vector<std::string>& arguments = {})
+        : m_localizedDescription(NSString::stringWithFormat(format, arguments))
     {
     }
 
