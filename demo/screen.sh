@@ -17,6 +17,7 @@ start_screen() {
     read -r number <"$pipe"
     rm "$pipe"
     export DISPLAY=":$number" XDG_RUNTIME_DIR="$PWD/build/demo/runtime"
+    export LC_ALL=C.UTF-8 LANGUAGE=en # for the pictures
     install -d -m 0700 "$XDG_RUNTIME_DIR"
     # It ends by itself now and then, and at times finds no display at first.
     until openbox; do sleep 0.1; done >/dev/null 2>&1 &

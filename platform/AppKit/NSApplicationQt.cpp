@@ -1,8 +1,10 @@
 #include <AppKit/NSApplication.h>
 
+#include "LanguageQt.h"
 #include "MainQueue.h"
 
 #include <AppKit/NSWindow.h>
+#include <Foundation/NSString.h>
 
 #include <QApplication>
 
@@ -42,22 +44,25 @@ void keepFromLaunchingABus()
 
 std::string missingDisplay(bool hasWaylandPlugin)
 {
-    const auto valueOf = [](const char* name) {
-        const char* const value = std::getenv(name);
-        return std::string(value ? value : "");
-    };
-    const std::string plugin = valueOf("QT_QPA_PLATFORM");
-    const std::string wayland = valueOf("WAYLAND_DISPLAY");
-    const std::string display = valueOf("DISPLAY");
-    if (!plugin.empty())
-        return "by the plugin “" + plugin + "”: install it, or unset QT_QPA_PLATFORM.";
-    if (!wayland.empty())
-        return "on the Wayland display “" + wayland + "”: "
-            + (hasWaylandPlugin ? "check that WAYLAND_DISPLAY names a running compositor."
-                                : "install the package qt6-wayland.");
-    if (!display.empty())
-        return "on the display “" + display + "”: check that DISPLAY names a running X server.";
-    return "without a display: start it in a desktop session, or set DISPLAY.";
+    const std::string wayland = hasWaylandPlugin
+        ? NSLocalizedString("Displays",
+            "The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY "
+            "names a running compositor.")
+        : NSLocalizedString("Displays",
+            "The window can’t be opened on the Wayland display “%1”: install the package "
+            "qt6-wayland.");
+    const std::string plugin = NSLocalizedString("Displays",
+        "The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.");
+    const std::string x = NSLocalizedString("Displays",
+        "The window can’t be opened on the display “%1”: check that DISPLAY names a running X "
+        "server.");
+    for (const auto& [name, sentence] : std::initializer_list<std::pair<const char*, std::string>> {
+             { "QT_QPA_PLATFORM", plugin }, { "WAYLAND_DISPLAY", wayland }, { "DISPLAY", x } })
+        if (const char* const value = std::getenv(name); value && *value)
+            return NSString::stringWithFormat(sentence, { value });
+    return NSLocalizedString("Displays",
+        "The window can’t be opened without a display: start it in a desktop session, or set "
+        "DISPLAY.");
 }
 
 // Once, on whichever thread comes first.
@@ -81,8 +86,8 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
         if (message.startsWith("The Wayland connection"))
             endWithoutDisplay();
     } else if (type == QtFatalMsg) {
-        const std::string missing = missingDisplay(message.contains("wayland"));
-        std::fputs(("The window can’t be opened " + missing + "\n").c_str(), stderr);
+        speakChosenLanguage();
+        std::fputs((missingDisplay(message.contains("wayland")) + "\n").c_str(), stderr);
         _exit(EXIT_FAILURE);
     }
 }
@@ -126,6 +131,7 @@ int NSApplicationMain(int argc, const char* const argv[])
     openStandardDescriptors();
     ignoreSignalsOfWriting();
     keepFromLaunchingABus();
+    chooseLanguage();
 
     // Qt gets only argv[0]; the program reads its arguments through NSProcessInfo.
     std::string name = argc > 0 ? argv[0] : "";
@@ -133,5 +139,6 @@ int NSApplicationMain(int argc, const char* const argv[])
     int qtCount = 1;
     qInstallMessageHandler(hear);
     const QApplication qtApplication(qtCount, qtArguments.data());
+    speakChosenLanguage();
     run(NSApplication::sharedApplication());
 }

@@ -21,6 +21,9 @@ TextQt::TextQt(QWidget* parent)
     setUndoRedoEnabled(false);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setMinimumHeight(leastHeight);
+    QTextOption option = document()->defaultTextOption();
+    option.setAlignment(isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    document()->setDefaultTextOption(option);
 }
 
 void TextQt::setStringValue(std::string_view text)

@@ -199,9 +199,9 @@ class InstallerTest(unittest.TestCase):
         """Told without the contents, which may be large."""
         self.assertEqual(sorted(path for path, _ in found.items() ^ tree.items()), [])
 
-    def press_until_closed(self, installer, key="Return"):
+    def press_until_closed(self, installer, key="Return", *title):
         try:
-            self.screen.await_window()
+            self.screen.await_window(*title)
             await_that(lambda: installer.poll() is not None or self.screen.press(key))
         except TimeoutError:
             self.fail(f"“{self.screen.active_title()}” is on the screen, and the log ends in {read_log()[-3:]}")

@@ -1,12 +1,25 @@
 import fcntl
+import gettext
 import os
 import subprocess
 from resource import RLIMIT_FSIZE, setrlimit
 
-from machine import BUNDLE, LOG, SOURCE, InstallerTest, mount, mount_memory, read_log, read_tree, remove, write
+from machine import (
+    BUNDLE, INSTALLER, LOG, SOURCE, InstallerTest, mount, mount_memory, read_log, read_tree, remove, write)
 
 FILE = "quillbarn.app/Contents/file"
 INSTALL, UNINSTALL = ("-install", SOURCE), ("-uninstall",)
+
+LANGUAGES = {  # what the desktop asks for, and what it gets
+    "ar_EG": ("تعذّر تثبيت quillbarn", "تعذّر فتح المجلد «\u2066{}\u2069»: إنّه غير موجود (\u2068{}\u2069)."),
+    "xx:de_AT:fr": ("quillbarn konnte nicht installiert werden",
+                    "Der Ordner „{}“ konnte nicht geöffnet werden: Das Objekt existiert nicht ({})."),
+    "es": ("No se pudo instalar quillbarn", "No se pudo abrir la carpeta «{}»: el elemento no existe ({})."),
+    "fr": ("quillbarn n’a pas pu être installé",
+           "Le dossier «\xa0{}\xa0» n’a pas pu être ouvert\xa0: l’élément n’existe pas ({})."),
+    "ja": ("quillbarn をインストールできませんでした", "フォルダー「{}」を開けませんでした: 存在しません ({})。"),
+    "zh_CN": ("无法安装 quillbarn", "无法打开文件夹“{}”：它不存在（{}）。"),
+}
 
 
 class Failure(InstallerTest):
@@ -17,13 +30,13 @@ class Failure(InstallerTest):
         write(SOURCE + FILE, "x" * 2_000_000)
         write(BUNDLE + "/kept", "installed")
 
-    def expect(self, description, *runs, step=None, left=None, key="Return", **options):
+    def expect(self, description, *runs, step=None, left=None, key="Return", title=INSTALLER, **options):
         """At the end of each of the runs, after that step. Nothing has changed unless told."""
         left = left or read_tree("/Applications")
         for arguments in runs or (INSTALL, UNINSTALL):
             with self.subTest(arguments=arguments, description=description):
                 remove(LOG)
-                self.press_until_closed(self.start(*arguments, **options), key)
+                self.press_until_closed(self.start(*arguments, **options), key, title)
                 self.assertEqual(read_log()[-4:], [
                     step or f"n {arguments[0][1:]} bundle", "d ", "d " + description, "n installer exit"])
                 self.expect_same(read_tree("/Applications"), left)
@@ -40,6 +53,13 @@ class Failure(InstallerTest):
         os.symlink("..", SOURCE + "quillbarn.app/Contents/loop")
         self.expect(f"The link “{SOURCE}quillbarn.app/Contents/loop” couldn’t be followed because it leads "
                     f"back to “{SOURCE}quillbarn.app/”, a folder that holds it.", INSTALL, key="space")
+
+    def test_it_is_told_in_the_language_of_the_desktop(self):
+        for language, (title, description) in LANGUAGES.items():
+            library = gettext.translation("libc", languages=language.split(":"), fallback=True)
+            words = library.gettext("No such file or directory")
+            self.expect(description.format("/nowhere/quillbarn.app/", words), ("-install", "/nowhere/"),
+                        title=title, env=os.environ | {"LANGUAGE": language})
 
     def test_a_limit_to_the_size_of_a_file(self):
         self.expect(
