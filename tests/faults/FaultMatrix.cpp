@@ -31,6 +31,8 @@ const std::string logFile = "/tmp/quillbarninstaller.log";
 constexpr uid_t someUser = 4711;
 constexpr const char* attributeName = "security.note"; // a volume in memory keeps it, too
 
+constexpr std::string_view endOfRun = "syncfs"; // of each
+
 struct Scenario {
     const char* name;
     bool isInstalled;
@@ -94,18 +96,19 @@ void runInOrder(const Scenario& scenario, Fault& fault)
     const int error = fault.error;
     const Part refused = error == EINTR || error == EIO ? content : fault.call.part;
     if (hasFailed) {
-        EXPECT_TRUE(error != EINTR && refused == content && !fault.path.empty() && !isOfLog);
+        // There is a way round some, and what is written to the disk is all that was to be done.
+        EXPECT_FALSE((std::set { EINTR, EINVAL, ENOLCK, EXDEV }.contains(error)));
+        EXPECT_TRUE(now == wanted || fault.call.name != endOfRun);
+        EXPECT_TRUE(refused == content && !fault.path.empty() && !isOfLog);
         const std::string reason = error == EWOULDBLOCK ? "locked" : strerrordesc_np(error);
-        EXPECT_TRUE(error == nothing || lines.back().find(reason) != std::string::npos)
-            << lines.back();
+        EXPECT_TRUE(error == nothing || lines.back().find(reason) != std::string::npos);
         return;
     }
     EXPECT_TRUE(now == wanted);
     EXPECT_TRUE(isOfLog || !fault.hasLostData);
     for (const auto& [path, inside] : wanted)
         EXPECT_TRUE(inside == "folder"
-            || carriedBy(apps + path, refused) == carriedBy(source + path, refused))
-            << path;
+            || carriedBy(apps + path, refused) == carriedBy(source + path, refused));
 }
 
 enum Result { hasHeld, hasFailed, wasNotMade };
@@ -147,7 +150,7 @@ struct FaultMatrix : testing::TestWithParam<FileCall> {
 TEST_P(FaultMatrix, whicheverCallFailsTheRunEndsInOrder)
 {
     const FileCall& call = GetParam();
-    std::array<int, 3> counts {};
+    std::array<std::size_t, 3> counts {};
     for (const Scenario& scenario : scenarios)
         for (const int error : call.errors) {
             Result result = hasHeld;
@@ -166,7 +169,7 @@ TEST_P(FaultMatrix, whicheverCallFailsTheRunEndsInOrder)
         }
     std::cout << call.name << ": " << counts[hasHeld] + counts[hasFailed] << " tried, "
               << counts[hasHeld] << " held" << std::endl;
-    EXPECT_GT(counts[hasHeld], 0);
+    EXPECT_GE(counts[hasHeld], call.name == endOfRun ? scenarios.size() * call.errors.size() : 1);
     EXPECT_EQ(counts[hasFailed], 0);
 }
 
