@@ -29,7 +29,7 @@ public:
 };
 
 // The toolkit's bar counts in whole steps and draws each at once. A task steps thousands of times a
-// second, so that the bar may be as far behind as a screen is.
+// second, so that the bar may be as far behind as a screen is, until it is full.
 class ProgressIndicatorQt : public ViewQt<QProgressBar, NSProgressIndicator> {
 public:
     using ViewQt::ViewQt;
@@ -39,7 +39,7 @@ public:
     void setDoubleValue(double value) override
     {
         m_step = std::clamp(stepsAt(value), minimum(), maximum());
-        if (!m_frame.isActive())
+        if (!m_frame.isActive() || m_step == maximum())
             showStep();
     }
 
