@@ -1,6 +1,7 @@
 #include "FileCopy.h"
 
 #include <array>
+#include <fcntl.h>
 #include <limits>
 
 namespace {
@@ -43,18 +44,22 @@ void readAndWrite(const FileDescriptor& from, const FileDescriptor& to, off_t of
     }
 }
 
-void copyRange(const FileDescriptor& from, const FileDescriptor& to, off_t offset, off_t end)
+// What has been written is on its way to the disk while the next is read.
+void copyRange(const FileDescriptor& from, const FileDescriptor& to, off_t start, off_t end)
 {
-    off_t written = offset;
-    while (offset < end) {
-        const auto size = check(
-            [&] {
-                return copy_file_range(
-                    from.number(), &offset, to.number(), &written, std::size_t(end - offset), 0);
-            },
-            { EINVAL, ENOSYS, EOPNOTSUPP, EXDEV });
-        if (size <= 0) // it can't, between these two, or it doesn't say why
-            return readAndWrite(from, to, offset, end);
+    constexpr off_t stretch = 0x800000; // bytes
+    for (; start < end; start += stretch) {
+        const off_t stop = std::min(end, start + stretch);
+        off_t offset = start;
+        off_t written = start;
+        const auto share = [&] {
+            return copy_file_range(
+                from.number(), &offset, to.number(), &written, std::size_t(stop - offset), 0);
+        };
+        while (offset < stop && check(share, { EINVAL, ENOSYS, EOPNOTSUPP, EXDEV }) > 0) {}
+        if (offset < stop) // it can't, between these two, or it doesn't say why
+            readAndWrite(from, to, offset, stop);
+        sync_file_range(to.number(), start, stop - start, SYNC_FILE_RANGE_WRITE); // may fail
     }
 }
 
