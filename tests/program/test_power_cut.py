@@ -1,51 +1,32 @@
 import os
-import subprocess
 
 from disks import LOOPS, run
 from machine import LOG, SOURCE, InstallerTest, await_that, mount, read_log, read_tree, remove, require, write
 
-STORE = "/tmp/store"  # a volume that clones a file in no time, all of it at one moment
-DISK = STORE + "/disk"
-COPY = STORE + "/copy"
-
-
-def make_volume(test, file, kind, folder):
-    """That writes nothing by itself while the test runs."""
-    with open(file, "wb") as image:
-        image.truncate(1 << 30)
-    run("mkfs." + kind, "-q", file)
-    mount(test, folder, "-o", "loop" + ",commit=300" * (kind == "ext4"), file)
+DISK, COPY = "/tmp/disk", "/tmp/copy"
 
 
 class PowerCut(InstallerTest):
     """What has been reported completed lasts, even if the power fails at that very moment."""
 
-    @classmethod
-    def setUpClass(cls):
-        require(LOOPS)
-        super().setUpClass()
-
     def setUp(self):
+        require(LOOPS)
         super().setUp()
-        make_volume(self, "/tmp/store.image", "xfs", STORE)
-        make_volume(self, DISK, "ext4", "/Applications")
-
-    def tree_after_power_cut(self):
-        """What is found if nothing reaches the disk from now on."""
-        run("cp", "--reflink=always", DISK, COPY)
-        os.makedirs("/tmp/found", exist_ok=True)
-        run("mount", "-o", "loop", COPY, "/tmp/found")
-        try:
-            return read_tree("/tmp/found/quillbarn.app")
-        finally:
-            run("umount", "/tmp/found")
+        run("truncate", "--size=256M", DISK)
+        run("mkfs.ext4", "-q", DISK)
+        mount(self, "/Applications", "-o", "loop,commit=300", DISK)  # which writes nothing by itself meanwhile
 
     def expect_to_last(self, tree, *arguments):
+        """If nothing reaches the disk from then on."""
         write(LOG)
         installer = self.start(*arguments)
         await_that(lambda: "d completed" in read_log())
-        found = self.tree_after_power_cut()
+        run("cp", "--sparse=always", DISK, COPY)
         self.expect_orderly_end(installer)
+        os.makedirs("/tmp/found", exist_ok=True)
+        run("mount", "-o", "loop", COPY, "/tmp/found")
+        found = read_tree("/tmp/found/quillbarn.app")
+        run("umount", "/tmp/found")
         self.expect_same(found, tree)
 
     def install(self, version):
@@ -70,7 +51,6 @@ class PowerCut(InstallerTest):
                     os.environ["INSTALLER"]])
                 if what == "error=EIO":
                     self.press_until_closed(installer)
-                    self.assertRegex(read_log()[-2], "Input/output error")
                 installer.wait()
                 self.assertFalse(os.path.exists("/Applications/quillbarn.app"))
                 self.expect_to_last({}, "-uninstall")
