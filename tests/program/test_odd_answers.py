@@ -1,11 +1,12 @@
 """A disk service that refuses, or answers with other types than documented."""
 
 import os
+import re
 import threading
-from resource import RLIMIT_DATA, setrlimit
+from resource import RLIM_INFINITY, RLIMIT_DATA, prlimit
 
 from disks import DetachTest, DiskImage
-from machine import GI, LOG, read_log, remove, require, start_bus
+from machine import GI, LOG, read, read_log, remove, require, start_bus
 
 try:
     from gi.repository import Gio, GLib
@@ -20,7 +21,7 @@ METHODS = """<node>
     <method name="Unmount"><arg type="a{sv}" direction="in"/></method></interface>
   <interface name="org.freedesktop.UDisks2.Drive">
     <method name="Eject"><arg type="a{sv}" direction="in"/></method></interface></node>"""
-MOST_MEMORY = 1 << 30
+MOST_GROWTH = 256 << 20  # bytes
 PLACE = "[b'/Volumes/quillbarn installer']"
 OBJECTS = """({objectpath '/org/freedesktop/UDisks2': {
   'org.freedesktop.UDisks2.Filesystem': {'MountPoints': <PLACE>},
@@ -53,6 +54,8 @@ class OddAnswers(DetachTest):
 
     @classmethod
     def _answer(cls, connection, _sender, _path, _interface, method, _options, question):
+        memory = int(re.search(r"VmData:\s+(\d+)", read(f"/proc/{cls.installer.pid}/status"))[1]) << 10
+        prlimit(cls.installer.pid, RLIMIT_DATA, (memory + MOST_GROWTH, RLIM_INFINITY))
         answer = Gio.DBusMessage.new_method_reply(question.get_message())
         if cls.answers[method]:
             answer.set_body(GLib.Variant.parse(None, cls.answers[method], None, None))
@@ -62,9 +65,10 @@ class OddAnswers(DetachTest):
 
     def start_with(self, method, odd):
         type(self).answers = ANSWERS | {method: odd}
-        return self.start("-install2", "/Volumes/quillbarn installer/quillbarn.app",
-                          env=os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": self.bus if method else "unix:path=/nowhere"},
-                          preexec_fn=lambda: setrlimit(RLIMIT_DATA, (MOST_MEMORY, MOST_MEMORY)))
+        bus = self.bus if method else "unix:path=/nowhere"
+        type(self).installer = self.start("-install2", "/Volumes/quillbarn installer/quillbarn.app",
+                                          env=os.environ | {"DBUS_SYSTEM_BUS_ADDRESS": bus})
+        return self.installer
 
     def test_each_is_a_refusal(self):
         image = DiskImage(self)
