@@ -66,7 +66,7 @@ int HeightConstraintQt::prepare(CGFloat constant)
     const bool canMove = !QGuiApplication::platformName().startsWith("wayland");
     const RoomQt room = roomOn(window.screen()->availableGeometry(), frame, window.geometry().top(),
         rest, int(constant), canMove);
-    if (window.isVisible() && room.top < window.y())
+    if (window.isVisible() && room.top != window.y())
         window.move(window.x(), room.top);
     m_part.setMinimumHeight(room.height);
     m_part.resize(layout.contentsRect().width(), room.height);
