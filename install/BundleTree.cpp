@@ -28,10 +28,11 @@ private:
 
 void TreeWalk::walk(const std::string& folder, const std::string& prefix)
 {
-    const auto names = m_fileManager.contentsOfDirectoryAtPath(folder + "/");
+    const std::string start = folder + "/";
+    const auto names = m_fileManager.contentsOfDirectoryAtPath(start);
     const FileIdentity identity = enter(folder);
     for (const std::string& name : names) {
-        const std::string path = folder + "/" + name;
+        const std::string path = start + name;
         bool isDirectory = false;
         if (!m_fileManager.fileExistsAtPath(path, isDirectory))
             continue;

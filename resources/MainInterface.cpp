@@ -22,7 +22,7 @@ std::shared_ptr<ViewController> openMainInterface(WindowQt& window)
     heading.setBold(true);
     ui.productName->setFont(heading);
 
-    const auto controller = ViewController::initWithCoder({ window.shared_from_this() });
+    auto controller = ViewController::initWithCoder({ window.shared_from_this() });
     controller->progressIndicator = window.outlet(ui.progressIndicator);
     controller->resultPainView = window.outlet(ui.resultPainView);
     controller->resultPainViewHeightConstraint

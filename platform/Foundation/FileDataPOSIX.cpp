@@ -11,7 +11,7 @@ constexpr off_t unknown = std::numeric_limits<off_t>::max();
 
 std::system_error failure(std::errc reason)
 {
-    return std::system_error(make_error_code(reason));
+    return { make_error_code(reason) };
 }
 
 void writeAll(const FileDescriptor& to, off_t offset, const char* data, off_t size)

@@ -16,7 +16,7 @@ static DASessionRef scheduled; // with the main thread's loop
 
 DASessionRef DASessionCreate(CFAllocatorRef)
 {
-    const auto session = diskArbitration.hasSession ? std::make_shared<DASession>() : nullptr;
+    auto session = diskArbitration.hasSession ? std::make_shared<DASession>() : nullptr;
     diskArbitration.session = session;
     return session;
 }

@@ -4,6 +4,7 @@
 #include <Foundation/ConfinedFolder.h>
 #include <Foundation/NSError.h>
 
+#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -91,7 +92,7 @@ TEST_F(ConfinedFolderTest, saysWhoMayWriteWhereTheCallerMayNot)
     const auto failures = [&](mode_t mode) {
         EXPECT_EQ(chmod((folder / "a").c_str(), mode), 0);
         EXPECT_EQ(seteuid(owner + 1), 0);
-        const std::array all { create("a/b"), copy("a/file", "a/b"), remove("a/file") };
+        std::array all { create("a/b"), copy("a/file", "a/b"), remove("a/file") };
         EXPECT_EQ(seteuid(0), 0);
         return all;
     };
@@ -119,9 +120,10 @@ TEST_F(ConfinedFolderTest, goesDownAndUpATreeDeeperThanAProcessMayHaveFiles)
         EXPECT_EQ(create(path), "");
         EXPECT_EQ(copy("file", path + "/file"), "");
     }
-    for (auto path = paths.rbegin(); path != paths.rend(); ++path) {
-        EXPECT_EQ(copy(*path + "/file", *path + "/copy"), "");
-        EXPECT_EQ(remove(*path), "");
+    std::ranges::reverse(paths);
+    for (const std::string& path : paths) {
+        EXPECT_EQ(copy(path + "/file", path + "/copy"), "");
+        EXPECT_EQ(remove(path), "");
     }
     EXPECT_EQ(readTree(folder.path()), (Tree { { "file", "" } }));
 }
