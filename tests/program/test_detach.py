@@ -6,15 +6,13 @@ from machine import mount, read_log, write
 
 
 class Detach(DetachTest):
-    def test_every_kind_of_image_at_the_first_attempt(self):
+    def test_every_kind_of_image(self):
         usual = "/Volumes/quillbarn installer"
         for kind, mount_point in (("attached", usual), ("self-detaching", usual), ("partitioned", usual),
                                   ("attached", "/Volumes/ü\t\\ \udcff")):
             with self.subTest(kind=kind, mount_point=mount_point):
                 image = DiskImage(self, mount_point, kind)
-                began = time.monotonic()
                 log = self.run_installer("-install2", image.bundle, cwd=image.bundle)
-                self.assertLess(time.monotonic() - began, 5)  # after which comes the second
                 self.assertEqual(log, self.log_of(image))
                 self.expect_detached(image)
 
