@@ -81,7 +81,7 @@ try {
         check(
             [&] { return fstatat(item.folder, item.name.c_str(), &status, AT_SYMLINK_NOFOLLOW); });
         if (!S_ISDIR(status.st_mode))
-            throw std::system_error(make_error_code(std::errc::file_exists));
+            throw errorOf(std::errc::file_exists);
     }
 } catch (const std::system_error& reason) {
     throw failureToChange(reason, { path },
@@ -99,7 +99,7 @@ void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& 
             { path, toPath });
     try {
         if (S_ISDIR(source.status.st_mode))
-            throw std::system_error(make_error_code(std::errc::is_a_directory));
+            throw errorOf(std::errc::is_a_directory);
         copyItem(source, m_folders->find(toPath));
     } catch (const std::system_error& reason) {
         throw failureToChange(reason, { path, toPath },

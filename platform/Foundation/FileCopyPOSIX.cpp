@@ -93,7 +93,7 @@ void NewFile::rename()
         return;
     // A file system that can't refuse to replace: look first.
     if (faccessat(m_item.folder, to, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
-        throw std::system_error(make_error_code(std::errc::file_exists));
+        throw errorOf(std::errc::file_exists);
     tryRename(0, {});
 }
 
@@ -110,7 +110,7 @@ void copyLink(const CopySource& source, const Item& to)
     const char* const name = to.name.c_str();
     if (check([&] { return symlinkat(source.link.c_str(), to.folder, name); }, { EEXIST }) < 0
         && readLink(to) != source.link)
-        throw std::system_error(make_error_code(std::errc::file_exists));
+        throw errorOf(std::errc::file_exists);
     const std::array<timespec, 2> times { source.status.st_atim, source.status.st_mtim };
     uninterrupted([&] { // may fail
         return fchownat(

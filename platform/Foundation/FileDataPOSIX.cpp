@@ -9,18 +9,13 @@ namespace {
 constexpr off_t bufferSize = 0x20000; // bytes
 constexpr off_t unknown = std::numeric_limits<off_t>::max();
 
-std::system_error failure(std::errc reason)
-{
-    return { make_error_code(reason) };
-}
-
 void writeAll(const FileDescriptor& to, off_t offset, const char* data, off_t size)
 {
     while (size > 0) {
         const auto written
             = check([&] { return pwrite(to.number(), data, std::size_t(size), offset); });
         if (written == 0)
-            throw failure(std::errc::no_space_on_device);
+            throw errorOf(std::errc::no_space_on_device);
         data += written;
         offset += written;
         size -= written;
@@ -36,7 +31,7 @@ void readAndWrite(const FileDescriptor& from, const FileDescriptor& to, off_t of
         const auto size
             = check([&] { return pread(from.number(), buffer.data(), wanted, offset); });
         if (size == 0 && end != unknown)
-            throw failure(std::errc::no_message_available);
+            throw errorOf(std::errc::no_message_available);
         if (size == 0)
             return;
         writeAll(to, offset, buffer.data(), size);
@@ -100,5 +95,5 @@ void copyFileData(const FileDescriptor& from, const struct stat& status, const F
     check([&] { return fstat(from.number(), &source); });
     check([&] { return fstat(to.number(), &copy); });
     if (source.st_size != 0 && source.st_size != copy.st_size)
-        throw failure(std::errc::no_message_available);
+        throw errorOf(std::errc::no_message_available);
 }

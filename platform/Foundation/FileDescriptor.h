@@ -48,6 +48,12 @@ inline std::system_error lastError()
     return { errno, std::generic_category() };
 }
 
+// The same for a reason that no call has given.
+inline std::system_error errorOf(std::errc reason)
+{
+    return { make_error_code(reason) };
+}
+
 // Calls the system, again whenever a signal interrupts it, and answers what it answers. Not for
 // close(), which is over even then.
 template <class Call> auto uninterrupted(const Call& call)
