@@ -29,9 +29,8 @@ private:
 void TreeWalk::walk(const std::string& folder, const std::string& prefix)
 {
     const std::string start = folder + "/";
-    const auto names = m_fileManager.contentsOfDirectoryAtPath(start);
-    const FileIdentity identity = enter(folder);
-    for (const std::string& name : names) {
+    const FileIdentity identity = enter(folder); // whose own folder is still open
+    for (const std::string& name : m_fileManager.contentsOfDirectoryAtPath(start)) {
         const std::string path = start + name;
         bool isDirectory = false;
         if (!m_fileManager.fileExistsAtPath(path, isDirectory))

@@ -63,12 +63,14 @@ void NewFile::publish()
         m_temporaryName.clear();
         return;
     }
-    static const FileDescriptor openFiles(open("/proc/self/fd", O_PATH | O_CLOEXEC));
-    const std::string self = std::to_string(m_descriptor.number());
-    check([&] {
-        return linkat(openFiles.number(), self.c_str(), m_item.folder, m_item.name.c_str(),
-            AT_SYMLINK_FOLLOW);
-    });
+    const int file = m_descriptor.number();
+    const char* const name = m_item.name.c_str();
+    const auto link = [&] { return linkat(file, "", m_item.folder, name, AT_EMPTY_PATH); };
+    if (check(link, { ENOENT }) < 0) { // that takes a privilege, before Linux 6.10
+        const std::string self = "/proc/self/fd/" + std::to_string(file);
+        check(
+            [&] { return linkat(AT_FDCWD, self.c_str(), m_item.folder, name, AT_SYMLINK_FOLLOW); });
+    }
     m_temporaryName = m_item.name;
     close();
     m_temporaryName.clear();

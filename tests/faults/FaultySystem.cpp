@@ -73,7 +73,7 @@ const std::vector<FileCall> fileCalls {
     { "readlinkat", SYS_readlinkat, 1 },
     { "mkdirat", SYS_mkdirat, 1 },
     { "symlinkat", SYS_symlinkat, 2 },
-    { "linkat", SYS_linkat, 3 },
+    { "linkat", SYS_linkat, 3, { EINTR, EIO, ENOENT } },
     { "unlinkat", SYS_unlinkat, 1, { EBUSY, EINTR, EIO } },
     { "renameat2", SYS_renameat2, 3, { EINTR, EINVAL, EIO } },
     { "renameat", SYS_renameat, 3 },
