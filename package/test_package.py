@@ -5,8 +5,7 @@ import os
 import pathlib
 import tempfile
 
-from disks import run
-from machine import SOURCE, InstallerTest, mount, read_tree, remove, write
+from machine import SOURCE, InstallerTest, mount, read_tree, remove, run, write
 
 NAME = "quillbarninstaller"
 FOLDER = pathlib.Path("/Applications")

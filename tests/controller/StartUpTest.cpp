@@ -65,6 +65,7 @@ TEST(ViewController, itsOutletsEndWithTheWindow)
     auto window = std::make_unique<TestWindow>();
     const auto controller = window->controller;
     EXPECT_TRUE(controller->resultPainView.lock() && controller->view());
+    EXPECT_FALSE(window->window->windowIcon().pixmap(16).isNull());
     window.reset();
     EXPECT_FALSE(controller->resultPainView.lock() || controller->view());
     EXPECT_EQ(ViewController::initWithCoder({}), nullptr);

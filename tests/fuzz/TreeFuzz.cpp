@@ -33,7 +33,7 @@ static Paths drawTrees(FuzzedDataProvider& draw)
         else if (kind == 1)
             fs::create_directories(folders.emplace_back(path));
         else
-            makeLink(path, oneOf(all));
+            fs::create_symlink(oneOf(all), path);
         all.push_back(path);
     }
     return all;

@@ -20,8 +20,8 @@ protected:
         EXPECT_TRUE(std::regex_match(content, std::regex(pattern))) << content;
     }
 
-    const TemporaryFolder folder;
-    const std::string path = folder / "log";
+    const std::string path
+        = std::string("/tmp/") + testing::UnitTest::GetInstance()->current_test_info()->name();
     Logger logger { path };
 };
 

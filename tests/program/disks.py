@@ -2,20 +2,14 @@
 
 import os
 import re
-import subprocess
 import tempfile
 
-from machine import InstallerTest, await_that, keep_running, read, require, start_bus, write
+from machine import InstallerTest, await_that, keep_running, read, require, run, start_bus, write
 
 BUS = "/run/dbus/system_bus_socket"
 UDISKSD = "/usr/libexec/udisks2/udisksd"
 UDEVD = "/usr/lib/systemd/systemd-udevd"
 LOOPS = "/dev/loop-control"
-
-
-def run(*command, check=True, **options):
-    return subprocess.run(command, check=check, capture_output=True, encoding="utf-8",
-                          errors="surrogateescape", **options).stdout.strip()
 
 
 class DiskImage:

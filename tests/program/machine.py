@@ -80,8 +80,14 @@ def read_tree(top):
             for path in Path(top).rglob("*")}
 
 
+def run(*command, check=True, **options):
+    """What a program says."""
+    return subprocess.run(command, check=check, capture_output=True, encoding="utf-8",
+                          errors="surrogateescape", **options).stdout.strip()
+
+
 def remove(*paths):
-    subprocess.run(["rm", "-rf", *paths], check=True)
+    run("rm", "-rf", *paths)
 
 
 def read_log():
@@ -94,8 +100,8 @@ def mount(test, place, *arguments):
     """Until the test is over. A place that is not there becomes a folder."""
     if not os.path.exists(place):
         os.makedirs(place)
-    subprocess.run(["mount", *arguments, place], check=True)
-    test.addCleanup(subprocess.run, ["umount", "--lazy", place], check=True)
+    run("mount", *arguments, place)
+    test.addCleanup(run, "umount", "--lazy", place)
 
 
 def mount_memory(test, folder, size):

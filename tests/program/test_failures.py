@@ -1,11 +1,10 @@
 import fcntl
 import gettext
 import os
-import subprocess
 from resource import RLIMIT_FSIZE, setrlimit
 
 from machine import (
-    BUNDLE, INSTALLER, LOG, SOURCE, InstallerTest, mount, mount_memory, read_log, read_tree, remove, write)
+    BUNDLE, INSTALLER, LOG, SOURCE, InstallerTest, mount, mount_memory, read_log, read_tree, remove, run, write)
 
 FILE = "quillbarn.app/Contents/file"
 INSTALL, UNINSTALL = ("-install", SOURCE), ("-uninstall",)
@@ -41,7 +40,7 @@ class Failure(InstallerTest):
                     step or f"n {arguments[0][1:]} bundle", "d ", "d " + description, "n installer exit"])
                 self.expect_same(read_tree("/Applications"), left)
 
-    def test_a_source_that_holds_itself_or_what_is_installed(self):
+    def test_a_source_that_cannot_be_followed_or_holds_what_is_installed(self):
         write(BUNDLE + "/folder/file")
         mount(self, "/tmp/partly/quillbarn.app/mounted", "--bind", BUNDLE + "/folder")
         os.makedirs("/tmp/linked/quillbarn.app")
@@ -53,6 +52,10 @@ class Failure(InstallerTest):
         os.symlink("..", SOURCE + "quillbarn.app/Contents/loop")
         self.expect(f"The link “{SOURCE}quillbarn.app/Contents/loop” couldn’t be followed because it leads "
                     f"back to “{SOURCE}quillbarn.app/”, a folder that holds it.", INSTALL, key="space")
+        remove(SOURCE + "quillbarn.app/Contents/loop")
+        os.symlink(300 * "x", SOURCE + "quillbarn.app/Contents/long")
+        self.expect(f"“{SOURCE}quillbarn.app/Contents/long” couldn’t be looked at because its name or path is too "
+                    "long (File name too long).", INSTALL)
 
     def test_it_is_told_in_the_language_of_the_desktop(self):
         for language, (title, description) in LANGUAGES.items():
@@ -76,7 +79,7 @@ class Failure(InstallerTest):
                     "mounted there (Invalid cross-device link).", step=f"d remove {BUNDLE}/mounted/file")
         mount_memory(self, "/Applications", "1m")
         write(BUNDLE + "/kept", "installed")
-        subprocess.run(["mount", "-o", "remount,ro", "/Applications"], check=True)
+        run("mount", "-o", "remount,ro", "/Applications")
         self.expect(f"“{BUNDLE}/kept” couldn’t be removed because the volume is read only (Read-only file "
                     "system).", step=f"d remove {BUNDLE}/kept", key="Escape")
 

@@ -1,7 +1,7 @@
 import os
 
-from disks import LOOPS, run
-from machine import LOG, SOURCE, InstallerTest, await_that, mount, read_log, read_tree, remove, require, write
+from disks import LOOPS
+from machine import LOG, SOURCE, InstallerTest, await_that, mount, read_log, read_tree, remove, require, run, write
 
 DISK, COPY = "/tmp/disk", "/tmp/copy"
 

@@ -35,7 +35,6 @@ struct TestWindow {
     {
         return runMainLoopUntil([this] { return window->isHidden(); });
     }
-    bool isOpening() const { return animation.state() == QAbstractAnimation::Running; }
 
     std::string title() const { return window->windowTitle().toStdString(); }
     std::string help() const { return button.accessibleDescription().toStdString(); }
