@@ -19,6 +19,7 @@ TEST(CommandLine, theFirstOptionDecidesWithoutItsPairOfSingleQuotes)
         { { "me", "-install", "'/p/" }, { "d install '/p/" } },
         { { "me", "-install", "/p/'" }, { "d install /p/'" } },
         { { "me", "-install", "'\u0301/p/'" }, { "d install '\u0301/p/'" } },
+        { { "me", "-install", "'/p/\u0600'" }, { "d install '/p/\u0600'" } },
         { {}, {} },
         { { "me", "-install" }, {} },
         { { "me", "-Install", "/p/" }, {} },

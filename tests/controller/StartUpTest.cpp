@@ -1,8 +1,11 @@
+#include "AppDelegate.h"
+#include "Logger.h"
 #include "support/TestWindow.h"
 #include "support/Tree.h"
 
 #include <pthread.h>
 #include <thread>
+#include <unistd.h>
 
 TEST(StartUp, aRunTellsWhatItDoesOrThatItCannotBeStarted)
 {
@@ -58,6 +61,17 @@ TEST(StartUp, aTestRunShowsThePaneAndLeavesTheBundleAloneAndTheWindowOpenAfterAR
         EXPECT_EQ(readTree("/Applications/quillbarn.app"),
             (std::map<std::string, std::string> { { "old", "" } }));
     }
+}
+
+TEST(AppDelegate, endsTheLog)
+{
+    const auto end = [] {
+        AppDelegate().applicationWillTerminate();
+        sharedLogger().log("late", Logger::LogLevel::debug);
+        _exit(0);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(readLog().back(), "n installer exit");
 }
 
 TEST(ViewController, itsOutletsEndWithTheWindow)

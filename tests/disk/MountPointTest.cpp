@@ -14,4 +14,7 @@ TEST(MountPoint, isThatOfTheFirstVolumeWhosePathBeginsThePath)
     EXPECT_EQ(mountPointOf("//V/x", { "/", "/V" }), "none");
     EXPECT_EQ(mountPointOf("/tmp/V/x", { "/V" }), "none");
     EXPECT_EQ(mountPointOf("/e\u0301/x", { "/\u00E9" }), "/\u00E9");
+    EXPECT_EQ(mountPointOf("/\u1100\u1161/x", { "/\uAC00" }), "/\uAC00");
+    EXPECT_EQ(mountPointOf("/V/\u0301x", { "/V" }), "none"); // a "/" with an accent
+    EXPECT_EQ(mountPointOf("/\xFF/x", { "/\uFFFD", "/\xFF" }), "/\xFF");
 }

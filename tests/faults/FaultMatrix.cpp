@@ -15,6 +15,7 @@
 #include <iostream>
 #include <set>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
 
@@ -100,6 +101,10 @@ void runInOrder(const Scenario& scenario, Fault& fault)
         EXPECT_FALSE((std::set { EINTR, EINVAL, ENOENT, ENOLCK, EXDEV }.contains(error)));
         EXPECT_TRUE(now == wanted || fault.call.name != endOfRun);
         EXPECT_TRUE(refused == content && !fault.path.empty() && !isOfLog);
+        const auto isOfLastStep = [&](const auto& file) {
+            return lines.at(lines.size() - 4) == "task: “ copy " + apps + file.first + "”";
+        };
+        EXPECT_FALSE(fault.call.number == SYS_close && std::ranges::any_of(now, isOfLastStep));
         const std::string reason = error == EWOULDBLOCK ? "locked" : strerrordesc_np(error);
         EXPECT_TRUE(error == nothing || lines.back().find(reason) != std::string::npos);
         return;
