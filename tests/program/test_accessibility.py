@@ -6,12 +6,6 @@ from machine import GI, SOURCE, InstallerTest, await_that, mount_memory, read_lo
 
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 TYPES = "/usr/lib/*/girepository-1.0/Atspi-2.0.typelib"
-try:
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi, GLib
-except (ImportError, ValueError):
-    Atspi = None
 
 FOCUS = "object:state-changed:focused"
 VALUE = "object:property-change:accessible-value"
@@ -45,6 +39,10 @@ class Accessibility(InstallerTest):
     @classmethod
     def setUpClass(cls):
         require(LAUNCHER, GI, TYPES)
+        global Atspi, GLib
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi, GLib
         super().setUpClass()
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = start_bus()
         os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
@@ -66,15 +64,17 @@ class Accessibility(InstallerTest):
 
             await_that(is_heard)
 
-        write_files(3000)
-        mount_memory(self, "/Applications", "16m")
-        installer = self.start("-install", SOURCE)
+        write_files(600)
+        mount_memory(self, "/Applications", "3m")
+        installer = self.start("-install", SOURCE, command=[  # slowly, or it is over before anything is heard
+            "strace", "--follow-forks", "--output=/dev/null", "--trace=linkat", "--inject=linkat:delay_enter=2000",
+            os.environ["INSTALLER"]])
         await_heard(FOCUS, True)  # by the button at the end
         self.screen.await_window(FAILURE)
         *messages, error = [entry[2:] for entry in read_log()[3:]]
         done = len(messages) - 2  # the one that failed, and an empty line
         self.assertRegex(error, "^“.*” couldn’t be copied to “.*” because the volume is out of space")
-        bar = "progress bar", "Progress", round(1000 * done / 3001)
+        bar = "progress bar", "Progress", round(1000 * done / 601)
         text, button = ("text", "Messages", "\n".join([*messages, error])), ("button", "Close", error)
         await_heard(FOCUS, True, button)
         desktop = Atspi.get_desktop(0)

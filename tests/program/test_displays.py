@@ -115,11 +115,14 @@ class Window(InstallerTest):
         self.assertEqual(read_log(), [
             "n installer start", "d uninstall ", "n uninstall bundle", "d completed", "n installer exit"])
 
-    def test_it_comes_to_the_front_by_itself(self):
-        write("/tmp/openbox", "<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>no"
-              "</focusNew></focus></openbox_config>")  # so that only a window which asks gets the keyboard
+    def test_it_comes_to_the_front_by_itself_or_does_without(self):
+        # Only a window that asks gets the keyboard, and one is not shown at all.
+        write("/tmp/openbox", "<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>no</focusNew></focus>"
+              "<applications><application title='Removing*'><iconic>yes</iconic></application></applications>"
+              "</openbox_config>")
         screen = Screen("--config-file", "/tmp/openbox")
         self.start(env=screen.environment)
         screen.await_window("quillbarn installer")
         self.start("-install", "/nowhere/", env=screen.environment)
         await_that(lambda: screen.active_title() == "quillbarn could not be installed")
+        self.expect_orderly_end(self.start("-uninstall", env=screen.environment))

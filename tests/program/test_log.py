@@ -16,6 +16,7 @@ class Log(InstallerTest):
             "strace", "--follow-forks", "--decode-fds=path", "--output=" + TRACE,
             "--trace=openat,write,fdatasync,mkdirat,linkat,unlinkat,syncfs", os.environ["INSTALLER"]])
         for call, rest in re.findall(r"^\d+ +(\w+)\((.*)", read(TRACE), re.MULTILINE):
+            self.assertRegex(rest, "^(?!.*O_TMPFILE)|, 0600\\)")  # nobody else sees what is unfinished
             if LOG in rest and (call != "openat" or "O_APPEND" in rest):
                 yield call
             elif "/Applications" in rest and call != "openat":

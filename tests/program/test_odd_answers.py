@@ -8,11 +8,6 @@ from resource import RLIM_INFINITY, RLIMIT_DATA, prlimit
 from disks import DetachTest, DiskImage
 from machine import GI, LOG, read, read_log, remove, require, start_bus
 
-try:
-    from gi.repository import Gio, GLib
-except ImportError:
-    GLib = None
-
 SERVICE = "org.freedesktop.UDisks2"
 DISK = "/org/freedesktop/UDisks2"  # a device, its drive and their manager in one
 METHODS = """<node>
@@ -42,6 +37,8 @@ class OddAnswers(DetachTest):
     @classmethod
     def setUpClass(cls):
         require(GI)
+        global Gio, GLib
+        from gi.repository import Gio, GLib
         super().setUpClass()
         cls.bus = start_bus()
         kind = Gio.DBusConnectionFlags
