@@ -35,7 +35,7 @@ Item OpenFolders::find(const std::string& path, std::initializer_list<int> expec
             = openFolder({ m_folders.back().descriptor.number(), path.substr(start, next - start) },
                 O_PATH, m_way, expected);
         if (!folder.isOpen())
-            return { folder.number(), "" };
+            return { -1, "" };
         m_folders.push_back({ path.substr(0, next), std::move(folder) });
         if (m_folders.size() > limit)
             m_folders.erase(m_folders.begin() + 1);
