@@ -61,7 +61,8 @@ show() {
 
 press_return_until_over() { # process
     while [ -e "/proc/$1" ]; do
-        xdotool search --onlyvisible --name "$any_title" windowactivate key Return || true
+        # Two commands, or the key would stay down when the window has gone.
+        ! xdotool search --onlyvisible --name "$any_title" windowactivate || xdotool key Return
         sleep 0.1
     done 2>/dev/null
 }
