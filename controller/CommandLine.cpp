@@ -42,8 +42,9 @@ std::optional<ViewController::CommandLineOption> ViewController::parseCommandLin
         const std::string text = unquoted(arguments[i]);
         if (option != options.end())
             path = text;
-        else if (option = std::ranges::find(options, text, &Option::argument);
-                 option != options.end() && option->mode == Mode::uninstall)
+        else
+            option = std::ranges::find(options, text, &Option::argument);
+        if (option != options.end() && option->mode == Mode::uninstall)
             path = "";
     }
     if (m_test) {

@@ -44,13 +44,12 @@ void keepFromLaunchingABus()
 
 std::string missingDisplay(bool hasWaylandPlugin)
 {
-    const std::string wayland = hasWaylandPlugin
-        ? NSLocalizedString("Displays",
+    std::string wayland = NSLocalizedString("Displays",
+        "The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.");
+    if (hasWaylandPlugin)
+        wayland = NSLocalizedString("Displays",
             "The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY "
-            "names a running compositor.")
-        : NSLocalizedString("Displays",
-            "The window can’t be opened on the Wayland display “%1”: install the package "
-            "qt6-wayland.");
+            "names a running compositor.");
     const std::string plugin = NSLocalizedString("Displays",
         "The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.");
     const std::string x = NSLocalizedString("Displays",
