@@ -74,7 +74,7 @@ TEST(ConfinedFolder, saysWhoMayWriteWhereTheCallerMayNot)
         for (const std::string& failure : failures(mode))
             EXPECT_TRUE(failure.ends_with(" because you don’t have permission to access it "
                                           "(Permission denied). Only "
-                + who + " may write in “" + place + "”: start the installer as one who may."))
+                + who + " may write in “/tmp/folder/place”: start the installer as one who may."))
                 << failure;
     EXPECT_EQ(failures(01777)[2],
         "“/tmp/folder/place/file” couldn’t be removed because it or its folder is protected: "
