@@ -21,6 +21,7 @@ public:
     const DASessionRef session;
     const QDBusObjectPath volume;
     const QDBusObjectPath image = {}; // the device of the whole image, or none
+    const bool isSelfDetaching = false; // with the unmount
     const QDBusObjectPath drive = {}; // that ejects, or none
 };
 
@@ -28,9 +29,11 @@ bool DADisk::eject() const
 {
     if (image.path().isEmpty())
         return session->call(drive, "Drive", "Eject"); // an error, where there is none
-    // The answer tells nothing: it is yes for a device that is in use and lets go of its image when
-    // it no longer is, and no for one that has let go of it by itself after the unmount.
-    session->call(image, "Loop", "Delete");
+    // The answer tells nothing: it is yes also for a device that is in use, and lets go of its
+    // image when it no longer is. Not asked for what is done already: UDisks 2.10.1 may crash as it
+    // refuses.
+    if (!isSelfDetaching)
+        session->call(image, "Loop", "Delete");
     return true;
 }
 
@@ -60,10 +63,12 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session
     if (volume == objects.end())
         return nullptr;
     const auto wholeDisk = volume->table.path().isEmpty() ? volume.key() : volume->table;
-    const bool isImage = *objects.value(wholeDisk).backingFile.constData() != '\0';
+    const UDisks2::Object device = objects.value(wholeDisk);
+    const bool isImage = *device.backingFile.constData() != '\0';
     const bool isEjectable = objects.value(volume->drive).isEjectable;
-    return std::make_shared<DADisk>(DADisk { session, volume.key(),
-        isImage ? wholeDisk : QDBusObjectPath(), isEjectable ? volume->drive : QDBusObjectPath() });
+    return std::make_shared<DADisk>(
+        DADisk { session, volume.key(), isImage ? wholeDisk : QDBusObjectPath(),
+            device.isSelfDetaching, isEjectable ? volume->drive : QDBusObjectPath() });
 }
 
 namespace {

@@ -16,6 +16,7 @@ public:
         QDBusObjectPath table; // of a partition: the whole disk
         QDBusObjectPath drive;
         QByteArray backingFile; // of a loop device, bytes up to a NUL
+        bool isSelfDetaching = false; // one that lets go of its file with its last user
         bool isEjectable = false;
     };
     using Objects = QMap<QDBusObjectPath, Object>;

@@ -62,6 +62,7 @@ UDisks2::Objects UDisks2::objects() const
             read<QDBusObjectPath>(*object, "Partition", "Table", "o"),
             read<QDBusObjectPath>(*object, "Block", "Drive", "o"),
             read<QByteArray>(*object, "Loop", "BackingFile", "ay"),
+            read<bool>(*object, "Loop", "Autoclear", "b"),
             read<bool>(*object, "Drive", "Ejectable", "b") };
     return objects;
 }

@@ -37,8 +37,10 @@ class DiskImage:
         run("mount", "-t", "squashfs", volume, mount_point)
         if kind == "self-detaching":
             run("losetup", "--detach", self.device)  # as soon as it is free
-        # The service hears of a new device only after a moment.
-        await_that(lambda: re.search("MountPoints: +/", run("udisksctl", "info", "-b", volume, check=False)))
+            write(f"/sys/block/{os.path.basename(self.device)}/uevent", "change")
+        # The service hears of a device and its state only after a moment.
+        known = "(?s)MountPoints: +/" + (".* Autoclear: +true" if kind == "self-detaching" else "")
+        await_that(lambda: re.search(known, run("udisksctl", "info", "-b", volume, check=False)))
 
     def _clean_up(self):
         run("umount", "--lazy", self.mount_point, check=False)  # where it still is

@@ -11,11 +11,9 @@ from machine import GI, LOG, read, read_log, remove, require, start_bus
 SERVICE = "org.freedesktop.UDisks2"
 DISK = "/org/freedesktop/UDisks2"  # a device, its drive and their manager in one
 METHODS = """<node>
-  <interface name="org.freedesktop.DBus.ObjectManager"><method name="GetManagedObjects"/></interface>
-  <interface name="org.freedesktop.UDisks2.Filesystem">
-    <method name="Unmount"><arg type="a{sv}" direction="in"/></method></interface>
-  <interface name="org.freedesktop.UDisks2.Drive">
-    <method name="Eject"><arg type="a{sv}" direction="in"/></method></interface></node>"""
+  <interface name="org.freedesktop.DBus.ObjectManager"><method name="GetManagedObjects"/></interface>""" + "".join(
+    f'<interface name="{SERVICE}.{name}"><method name="{method}"><arg type="a{{sv}}" direction="in"/></method></interface>'
+    for name, method in (("Filesystem", "Unmount"), ("Drive", "Eject"), ("Loop", "Delete"))) + "</node>"
 MOST_GROWTH = 256 << 20  # bytes
 PLACE = "[b'/Volumes/quillbarn installer']"
 OBJECTS = """({objectpath '/org/freedesktop/UDisks2': {
@@ -25,7 +23,9 @@ OBJECTS = """({objectpath '/org/freedesktop/UDisks2': {
 ANSWERS = {"GetManagedObjects": OBJECTS, "Unmount": "()", "Eject": "()"}
 # Of another type, they are as none.
 MORE = f"""'org.freedesktop.UDisks2.Partition': {{'Table': <''>}},
-  'org.freedesktop.UDisks2.Loop': {{'BackingFile': {'<' * 50}''{'>' * 50}}}, 'org.freedesktop.UDisks2.Drive'"""
+  'org.freedesktop.UDisks2.Loop': {{'BackingFile': {'<' * 50}''{'>' * 50}}}, """
+# Gone with the unmount: there is no answer to "Delete".
+GONE = "'org.freedesktop.UDisks2.Loop': {'BackingFile': <b'/image'>, 'Autoclear': <true>}, "
 ODD = (*(("GetManagedObjects", answer) for answer in (
            "()", "({'a': 'b'},)", "({objectpath '/a': {'a': {'a': 'a'}}},)", OBJECTS.replace(PLACE, "[[1, 2]]"),
            OBJECTS.replace(PLACE, "(1, 'a')"), OBJECTS.replace("true", "uint32 1"), OBJECTS.replace("true", "[true]"))),
@@ -69,9 +69,10 @@ class OddAnswers(DetachTest):
 
     def test_each_is_a_refusal(self):
         image = DiskImage(self)
-        for objects in OBJECTS, OBJECTS.replace("'org.freedesktop.UDisks2.Drive'", MORE):
-            with self.subTest(objects=objects):
+        for more in "", MORE, GONE:
+            with self.subTest(more):
                 remove(LOG)
+                objects = OBJECTS.replace("'org.freedesktop.UDisks2.Drive'", more + "'org.freedesktop.UDisks2.Drive'")
                 self.expect_orderly_end(self.start_with("GetManagedObjects", objects))
                 self.assertEqual(read_log(), self.log_of(image, "d failed"))  # as nothing was done
         for row in ODD:
