@@ -75,9 +75,9 @@ TEST_F(Tasks, whateverIsThrownEndsTheRunWithWords)
              std::pair(std::make_exception_ptr(std::bad_alloc()), "the memory is used up."),
              std::pair(std::make_exception_ptr(std::runtime_error("odd")), "of: odd"),
          }) {
-        report->note = [&thrown = thrown] {
-            if (thrown)
-                std::rethrow_exception(std::exchange(thrown, nullptr));
+        report->note = [&next = thrown] {
+            if (next)
+                std::rethrow_exception(std::exchange(next, nullptr));
             return "";
         };
         std::thread([this] {
