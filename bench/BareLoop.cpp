@@ -45,7 +45,8 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
     struct stat status = {};
     require(stat(folder.c_str(), &status) == 0, folder);
     DIR* const directory = opendir(folder.c_str());
-    require(directory, folder);
+    if (!directory)
+        return require(false, folder);
     std::vector<std::string> names;
     while (const dirent* item = readdir(directory))
         if (const std::string name = item->d_name; name != "." && name != "..")
@@ -93,8 +94,7 @@ public:
         if (const time_t now = time(nullptr); now != m_second) {
             m_second = now;
             tm local = {};
-            strftime(
-                m_stamp.data(), m_stamp.size(), "%Y/%m/%d-%H:%M:%S ", localtime_r(&now, &local));
+            strftime(m_stamp.data(), m_stamp.size(), "%Y/%m/%d-%T ", localtime_r(&now, &local));
         }
         const std::string line = m_stamp.data() + std::to_string(getpid()) + " d " + message + '\n';
         require(::write(m_file, line.data(), line.size()) == ssize_t(line.size()), "log");

@@ -10,7 +10,7 @@ std::shared_ptr<ViewController> ViewController::initWithNibName(
     const std::string& nibName, const NSBundle* bundle)
 {
     const std::shared_ptr<ViewController> controller(new ViewController);
-    return controller->NSViewController::initWithNibName(nibName, bundle) ? controller : nullptr;
+    return NSViewController::initWithNibName(nibName, bundle) ? controller : nullptr;
 }
 
 std::shared_ptr<ViewController> ViewController::self()

@@ -39,7 +39,7 @@ void HeightConstraintQt::setConstant(CGFloat constant)
 void HeightConstraintQt::animateConstant(CGFloat constant)
 {
     stop();
-    QWidget& window = *m_part.window();
+    const QWidget& window = *m_part.window();
     window.layout()->setEnabled(false); // or it would fit the part into the window as it grows
     const int height = prepare(constant);
     window.layout()->setGeometry({ 0, 0, window.width(), height });
@@ -58,7 +58,7 @@ int HeightConstraintQt::prepare(CGFloat constant)
 {
     m_constant = constant;
     QWidget& window = *m_part.window();
-    QLayout& layout = *window.layout();
+    const QLayout& layout = *window.layout();
     const int rest = layout.totalMinimumSize().height()
         + (m_part.isHidden() ? layout.spacing() : -m_part.minimumHeight());
     const QMargins frame = window.isVisible() ? window.windowHandle()->frameMargins() : QMargins();

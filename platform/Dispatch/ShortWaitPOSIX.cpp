@@ -9,7 +9,8 @@ bool ShortWait::spinUntil(const std::atomic<bool>& isOver)
 {
     constexpr int mostRests = 255;
     const bool rests = m_rests > 0;
-    const bool wasWorthIt = spin(!hasOtherCore() ? 0us : rests ? 50us : 1000us, isOver);
+    const auto longest = rests ? 50us : 1000us;
+    const bool wasWorthIt = spin(hasOtherCore() ? longest : 0us, isOver);
     if (wasWorthIt)
         m_failures /= 2;
     else if (rests)

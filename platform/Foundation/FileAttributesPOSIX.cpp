@@ -36,11 +36,11 @@ bool copyPlainAttributes(const FileDescriptor& from, const FileDescriptor& to)
     const auto size = list(0) > 0 ? list(names.size()) : 0;
     bool hasList = false;
     for (ssize_t start = 0; start < size;) {
-        const std::string_view name = &names[std::size_t(start)];
+        const std::string name = &names[std::size_t(start)];
         if (name == accessControlList)
             hasList = true;
         else if (name != "security.capability")
-            copyAttribute(from, to, name.data());
+            copyAttribute(from, to, name.c_str());
         start += ssize_t(name.size()) + 1;
     }
     return hasList;

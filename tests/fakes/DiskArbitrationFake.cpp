@@ -12,7 +12,27 @@ public:
     DASessionRef session;
 };
 
-static DASessionRef scheduled; // with the main thread's loop
+namespace {
+
+DASessionRef scheduled; // with the main thread's loop
+
+// Passes the disk on without keeping it, so that its release shows. A callback without context has
+// no request.
+void answer(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
+{
+    callback(disk, nullptr, nullptr);
+    if (disk->session != scheduled)
+        return;
+    const DADiskRef borrowed(DADiskRef(), disk.get());
+    DispatchQueue::main().async([borrowed, isGranted, callback, context] {
+        const DADissenter dissenter;
+        diskArbitration.isInCallback = true;
+        callback(borrowed, isGranted ? nullptr : &dissenter, context);
+        diskArbitration.isInCallback = false;
+    });
+}
+
+}
 
 DASessionRef DASessionCreate(CFAllocatorRef)
 {
@@ -35,23 +55,6 @@ void DASessionScheduleWithRunLoop(const DASessionRef& session, CFRunLoopRef runL
 void DASessionUnscheduleFromRunLoop(const DASessionRef&, CFRunLoopRef, CFRunLoopMode)
 {
     scheduled = nullptr;
-}
-
-// Passes the disk on without keeping it, so that its release shows. A callback without context has
-// no request.
-static void answer(
-    const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
-{
-    callback(disk, nullptr, nullptr);
-    if (disk->session != scheduled)
-        return;
-    const DADiskRef borrowed(DADiskRef(), disk.get());
-    DispatchQueue::main().async([borrowed, isGranted, callback, context] {
-        const DADissenter dissenter;
-        diskArbitration.isInCallback = true;
-        callback(borrowed, isGranted ? nullptr : &dissenter, context);
-        diskArbitration.isInCallback = false;
-    });
 }
 
 void DADiskUnmount(

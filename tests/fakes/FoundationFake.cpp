@@ -4,6 +4,7 @@
 #include <Foundation/NSProcessInfo.h>
 #include <Foundation/NSThread.h>
 
+#include <algorithm>
 #include <unistd.h>
 
 const NSProcessInfo& NSProcessInfo::processInfo()
@@ -36,7 +37,7 @@ std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKey
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const
 {
     std::vector<NSURL> volumes;
-    for (const std::string& mountPoint : foundation.mountPoints)
-        volumes.push_back(NSURL::fileURLWithPath(mountPoint));
+    std::ranges::transform(
+        foundation.mountPoints, std::back_inserter(volumes), &NSURL::fileURLWithPath);
     return volumes;
 }

@@ -168,12 +168,12 @@ TEST_P(FaultMatrix, whicheverCallFailsTheRunEndsInOrder)
                     [&](Fault& fault) { runInOrder(scenario, fault); });
                 ++counts[result];
                 if (result == hasFailed)
-                    std::cout << "with " << strerrorname_np(error) << " at " << call.name << " "
-                              << step << " of " << scenario.name << std::endl;
+                    std::cerr << "with " << strerrorname_np(error) << " at " << call.name << " "
+                              << step << " of " << scenario.name << '\n';
             }
         }
-    std::cout << call.name << ": " << counts[hasHeld] + counts[hasFailed] << " tried, "
-              << counts[hasHeld] << " held" << std::endl;
+    std::cerr << call.name << ": " << counts[hasHeld] + counts[hasFailed] << " tried, "
+              << counts[hasHeld] << " held" << '\n';
     EXPECT_GE(counts[hasHeld], call.name == endOfRun ? scenarios.size() * call.errors.size() : 1);
     EXPECT_EQ(counts[hasFailed], 0);
 }
