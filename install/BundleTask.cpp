@@ -107,9 +107,8 @@ void BundleTask::removeBundle(TopFolder topFolder, const Progress& progress)
 BundleTask::Files BundleTask::listBundle(
     const std::string& parent, const BundleTree::Visitor& visit) const
 {
-    Files files { { true, m_bundleDir } };
-    std::ranges::move(BundleTree::getFiles(parent + m_bundleDir + "/", m_bundleDir + "/", visit),
-        std::back_inserter(files));
+    Files files = BundleTree::getFiles(parent + m_bundleDir + "/", m_bundleDir + "/", visit);
+    files.insert(files.begin(), { true, m_bundleDir });
     return files;
 }
 

@@ -29,10 +29,9 @@ class DiskImage:
             run("sfdisk", self.file, input="label: dos\nstart=1MiB\n")
         self.device = run("losetup", "--find", "--show", self.file)
         test.addCleanup(self._clean_up)
-        volume = self.device
+        volume = self.device + ("p1" if kind == "partitioned" else "")
         if kind == "partitioned":
             run("partx", "--update", self.device)  # even where the kernel doesn't know the table
-            volume += "p1"
         os.makedirs(mount_point, exist_ok=True)
         run("mount", "-t", "squashfs", volume, mount_point)
         if kind == "self-detaching":
