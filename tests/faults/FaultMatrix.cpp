@@ -173,7 +173,7 @@ TEST_P(FaultMatrix, whicheverCallFailsTheRunEndsInOrder)
             }
         }
     std::cerr << call.name << ": " << counts[hasHeld] + counts[hasFailed] << " tried, "
-              << counts[hasHeld] << " held" << '\n';
+              << counts[hasHeld] << " held\n";
     EXPECT_GE(counts[hasHeld], call.name == endOfRun ? scenarios.size() * call.errors.size() : 1);
     EXPECT_EQ(counts[hasFailed], 0);
 }
