@@ -10,20 +10,6 @@ CFRunLoopRef mainRunLoop()
     return NSRunLoop::mainRunLoop().getCFRunLoop();
 }
 
-// A request's context: a reference to the ejector, which the request's callback takes back.
-using Reference = std::shared_ptr<DiskImageEjector>;
-
-void* retained(Reference ejector)
-{
-    return new Reference(std::move(ejector));
-}
-
-Reference takeRetained(void* context)
-{
-    const std::unique_ptr<Reference> reference(static_cast<Reference*>(context));
-    return *reference;
-}
-
 }
 
 void DiskImageEjector::eject(const NSURL& volumeURL, Completion completion)
@@ -43,37 +29,42 @@ void DiskImageEjector::eject(const NSURL& volumeURL, Completion completion)
     m_completion = std::move(completion);
     m_session = session;
     m_disk = disk;
+    m_self = shared_from_this();
     DASessionScheduleWithRunLoop(session, mainRunLoop(), kCFRunLoopDefaultMode);
-    DADiskUnmount(disk, kDADiskUnmountOptionDefault, unmountCallback, retained(shared_from_this()));
+    DADiskUnmount(disk, kDADiskUnmountOptionDefault, unmountCallback, this);
 }
 
 void DiskImageEjector::unmountCallback(
     const DADiskRef&, const DADissenter* dissenter, void* context)
 {
     if (context)
-        takeRetained(context)->unmountCompleted(dissenter);
+        static_cast<DiskImageEjector*>(context)->unmountCompleted(dissenter);
 }
 
 void DiskImageEjector::unmountCompleted(const DADissenter* dissenter)
 {
-    if (!dissenter) {
-        DADiskEject(m_disk, kDADiskEjectOptionDefault, ejectCallback, retained(shared_from_this()));
-        return;
-    }
-    cleanUp();
-    m_completion(Result::failedUnmount);
+    if (dissenter)
+        complete(Result::failedUnmount);
+    else
+        DADiskEject(m_disk, kDADiskEjectOptionDefault, ejectCallback, this);
 }
 
 void DiskImageEjector::ejectCallback(const DADiskRef&, const DADissenter* dissenter, void* context)
 {
     if (context)
-        takeRetained(context)->ejectCompleted(dissenter);
+        static_cast<DiskImageEjector*>(context)->ejectCompleted(dissenter);
 }
 
 void DiskImageEjector::ejectCompleted(const DADissenter* dissenter)
 {
+    complete(dissenter ? Result::failedEject : Result::succeeded);
+}
+
+void DiskImageEjector::complete(Result result)
+{
+    const auto self = std::move(m_self); // until the completion has returned
     cleanUp();
-    m_completion(dissenter ? Result::failedEject : Result::succeeded);
+    m_completion(result);
 }
 
 void DiskImageEjector::cleanUp()

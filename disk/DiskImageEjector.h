@@ -5,15 +5,15 @@
 #include <functional>
 #include <memory>
 
-// Unmounts one volume and, if that worked, ejects the disk that holds it. Doesn't try again.
+// Unmounts one volume and then ejects the disk that contains it. Does not retry.
 class DiskImageEjector : public std::enable_shared_from_this<DiskImageEjector> {
 public:
     enum class Result { succeeded, failedUnmount, failedEject };
     using Completion = std::function<void(Result)>;
 
-    // Starts, once, from any thread. `volumeURL` is that of a mount point. `completion` is called
-    // once, on the main thread, not before this has returned. The ejector lives until then, whoever
-    // else holds it.
+    // Starts the detach and returns. To be called once per ejector, from any thread. `volumeURL` is
+    // the URL of a mount point. `completion` runs exactly once, on the main thread, after this has
+    // returned. The ejector holds a reference to itself until then.
     void eject(const NSURL& volumeURL, Completion completion);
 
 private:
@@ -22,9 +22,11 @@ private:
 
     void unmountCompleted(const DADissenter* dissenter);
     void ejectCompleted(const DADissenter* dissenter);
+    void complete(Result result);
     void cleanUp();
 
     Completion m_completion;
     DASessionRef m_session;
     DADiskRef m_disk;
+    std::shared_ptr<DiskImageEjector> m_self; // while a request is pending
 };

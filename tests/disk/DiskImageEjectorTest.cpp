@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(DiskImageEjector, reportsEachOutcomeOnceOnTheMainThreadAfterCleaningUp)
+TEST(DiskImageEjector, ReportsOutcomeOnceAfterCleanUp)
 {
     using Result = DiskImageEjector::Result;
     for (const auto& [service, outcome] : std::vector<std::pair<DiskArbitrationFake, Result>> {
