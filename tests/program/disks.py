@@ -1,10 +1,10 @@
-"""The real disk service on a private machine, and disk images. Their devices are the real machine's."""
+"""UDisks2 in a private namespace, and disk images. Loop devices are shared with the real machine."""
 
 import os
 import re
 import tempfile
 
-from machine import InstallerTest, await_that, keep_running, read, require, run, start_bus, write
+from machine import InstallerTest, await_that, keep_running, read, read_log, require, run, start_bus, write
 
 BUS = "/run/dbus/system_bus_socket"
 UDISKSD = "/usr/libexec/udisks2/udisksd"
@@ -13,10 +13,10 @@ LOOPS = "/dev/loop-control"
 
 
 class DiskImage:
-    """An image with a bundle in it, mounted until the test is over, and known to the service.
+    """An image that contains a bundle, mounted until the end of the test and known to the service.
 
-    `kind` is "attached" to a device that keeps it when it is unmounted, "self-detaching", or
-    "partitioned" with the bundle in a partition.
+    `kind` is "attached" (the loop device keeps the image after an unmount), "self-detaching",
+    or "partitioned" (the bundle is in a partition).
     """
 
     def __init__(self, test, mount_point="/Volumes/quillbarn installer", kind="attached"):
@@ -24,25 +24,24 @@ class DiskImage:
         self.mount_point = mount_point
         self.bundle = mount_point + "/quillbarn.app"
         write("/tmp/content/quillbarn.app/quillbarn", "the program")
+        os.makedirs(mount_point, exist_ok=True)
         run("mksquashfs", "/tmp/content", self.file, "-quiet", "-offset", "1M" if kind == "partitioned" else "0")
-        if kind == "partitioned":
-            run("sfdisk", self.file, input="label: dos\nstart=1MiB\n")
         self.device = run("losetup", "--find", "--show", self.file)
         test.addCleanup(self._clean_up)
-        volume = self.device + ("p1" if kind == "partitioned" else "")
+        self.volume = self.device + ("p1" if kind == "partitioned" else "")
         if kind == "partitioned":
-            run("partx", "--update", self.device)  # even where the kernel doesn't know the table
-        os.makedirs(mount_point, exist_ok=True)
-        run("mount", "-t", "squashfs", volume, mount_point)
+            run("sfdisk", self.device, input="label: dos\nstart=1MiB\n")
+            run("partx", "--update", self.device)  # a kernel without support for the table
+        run("mount", self.volume, mount_point)
         if kind == "self-detaching":
-            run("losetup", "--detach", self.device)  # as soon as it is free
+            run("losetup", "--detach", self.device)  # sets autoclear, because the device is busy
             write(f"/sys/block/{os.path.basename(self.device)}/uevent", "change")
-        # The service hears of a device and its state only after a moment.
+        # The service notices devices and their state asynchronously.
         known = "(?s)MountPoints: +/" + (".* Autoclear: +true" if kind == "self-detaching" else "")
-        await_that(lambda: re.search(known, run("udisksctl", "info", "-b", volume, check=False)))
+        await_that(lambda: re.search(known, run("udisksctl", "info", "-b", self.volume, check=False)))
 
     def _clean_up(self):
-        run("umount", "--lazy", self.mount_point, check=False)  # where it still is
+        run("umount", "--lazy", "--all-targets", self.volume, check=False)  # if it is still mounted
         if self.is_attached():
             run("losetup", "--detach", self.device)
 
@@ -68,6 +67,8 @@ class DetachTest(InstallerTest):
         step = "unmount " + image.bundle
         return ["n installer start", "d " + step, "n " + step, "d " + step, end, "n installer exit"]
 
-    def expect_detached(self, image):
+    def expect_detach(self, image, installer):
+        self.expect_orderly_end(installer)
+        self.assertEqual(read_log(), self.log_of(image))
         self.assertFalse(os.path.ismount(image.mount_point))
-        await_that(lambda: not image.is_attached())  # the service looks at a device that has changed
+        await_that(lambda: not image.is_attached())  # asynchronous; the service may hold the device open
