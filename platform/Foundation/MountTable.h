@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-// The mount points in the mount table, in its order, of the volumes that a person would call so:
-// without the file systems of the kernel and those in memory, without what is a part of a volume
-// mounted elsewhere, and without what is marked as hidden.
+// Returns the mount points of the visible volumes, in the order of the mount table. Hidden: pseudo
+// and in-memory file systems, bind mounts, further subvolumes of a btrfs, and mounts with the
+// option x-gvfs-hide.
 //
-// Asks the table alone and never a volume, so that a dead one can't hold it up. `table` is a file
-// of the form of /proc/self/mountinfo; nullptr: that one.
+// Reads only the table and never a volume, because an unresponsive one blocks. `table` is a file in
+// the format of /proc/self/mountinfo, which is the default (nullptr).
 std::vector<std::string> visibleMountPoints(const char* table = nullptr);

@@ -4,19 +4,21 @@
 
 #include <libmount/libmount.h>
 #include <memory>
-#include <string_view>
 
 namespace {
 
 using Table = std::unique_ptr<libmnt_table, decltype(&mnt_unref_table)>;
 using Iterator = std::unique_ptr<libmnt_iter, decltype(&mnt_free_iter)>;
 
-bool isHidden(libmnt_fs* volume)
+// A bind mount of a folder, or a btrfs subvolume. A btrfs with a default subvolume is mounted at
+// that, so the first mount of a btrfs is a volume, even if its root is a subvolume.
+bool isPartOfAnother(libmnt_table* volumes, libmnt_fs* volume)
 {
-    const char* const root = mnt_fs_get_root(volume);
-    const bool isPartOfAnother = root && std::string_view(root) != "/";
-    return isPartOfAnother || mnt_fs_is_pseudofs(volume)
-        || mnt_fs_match_options(volume, "x-gvfs-hide");
+    const char* const folder = mnt_fs_get_root(volume);
+    const std::string root = folder ? folder : "/";
+    const bool isFirst
+        = volume == mnt_table_find_devno(volumes, mnt_fs_get_devno(volume), MNT_ITER_FORWARD);
+    return root != "/" && !(isFirst && mnt_fs_match_options(volume, ("subvol=" + root).c_str()));
 }
 
 }
@@ -31,7 +33,8 @@ std::vector<std::string> visibleMountPoints(const char* table)
     std::vector<std::string> mountPoints;
     libmnt_fs* volume = nullptr;
     while (mnt_table_next_fs(volumes.get(), iterator.get(), &volume) == 0) {
-        if (!isHidden(volume))
+        if (!isPartOfAnother(volumes.get(), volume) && !mnt_fs_is_pseudofs(volume)
+            && !mnt_fs_match_options(volume, "x-gvfs-hide"))
             mountPoints.emplace_back(mnt_fs_get_target(volume));
     }
     return mountPoints;

@@ -16,7 +16,7 @@ class DiskImage:
     """An image that contains a bundle, mounted until the end of the test and known to the service.
 
     `kind` is "attached" (the loop device keeps the image after an unmount), "self-detaching",
-    or "partitioned" (the bundle is in a partition).
+    "partitioned" (the bundle is in a partition) or "btrfs" (the bundle is in a default subvolume).
     """
 
     def __init__(self, test, mount_point="/Volumes/quillbarn installer", kind="attached"):
@@ -25,7 +25,14 @@ class DiskImage:
         self.bundle = mount_point + "/quillbarn.app"
         write("/tmp/content/quillbarn.app/quillbarn", "the program")
         os.makedirs(mount_point, exist_ok=True)
-        run("mksquashfs", "/tmp/content", self.file, "-quiet", "-offset", "1M" if kind == "partitioned" else "0")
+        if kind == "btrfs":
+            run("mkfs.btrfs", "--rootdir=/tmp/content", self.file)
+            run("mount", self.file, mount_point)
+            run("btrfs", "subvolume", "snapshot", mount_point, mount_point + "/default")
+            run("btrfs", "subvolume", "set-default", mount_point + "/default")
+            run("umount", mount_point)
+        else:
+            run("mksquashfs", "/tmp/content", self.file, "-quiet", "-offset", "1M" if kind == "partitioned" else "0")
         self.device = run("losetup", "--find", "--show", self.file)
         test.addCleanup(self._clean_up)
         self.volume = self.device + ("p1" if kind == "partitioned" else "")
@@ -53,7 +60,7 @@ class DiskImage:
 class DetachTest(InstallerTest):
     @classmethod
     def setUpClass(cls):
-        require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "mksquashfs", "sfdisk", "losetup")
+        require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "mkfs.btrfs", "mksquashfs", "sfdisk", "losetup")
         super().setUpClass()
         os.makedirs(os.path.dirname(BUS))
         start_bus("--address=unix:path=" + BUS)

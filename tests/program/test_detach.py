@@ -9,7 +9,7 @@ class Detach(DetachTest):
     def test_kinds_of_image(self):
         usual = "/Volumes/quillbarn installer"
         for kind, mount_point in (("attached", usual), ("self-detaching", usual), ("partitioned", usual),
-                                  ("attached", "/Volumes/ü\t\\ \udcff")):
+                                  ("btrfs", usual), ("attached", "/Volumes/ü\t\\ \udcff")):
             with self.subTest(kind=kind, mount_point=mount_point):
                 remove(LOG)
                 image = DiskImage(self, mount_point, kind)
