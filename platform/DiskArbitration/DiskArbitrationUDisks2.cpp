@@ -6,41 +6,60 @@
 
 #include <algorithm>
 #include <atomic>
+#include <future>
 
-class DASession : public UDisks2 {
+class DASession {
 public:
-    std::atomic<CFRunLoopRef> runLoop = nullptr; // nullptr: unscheduled
+    std::atomic<CFRunLoopRef> runLoop = nullptr; // nullptr: not scheduled
 };
 
 class DADisk {
 public:
-    // Whether it was granted.
-    bool unmount() const { return session->call(volume, "Filesystem", "Unmount"); }
-    bool eject() const;
+    // Each returns whether the request was granted.
+    bool unmount(const UDisks2& service);
+    bool eject(const UDisks2& service);
 
     const DASessionRef session;
-    const QDBusObjectPath volume;
-    const QDBusObjectPath image = {}; // the device of the whole image, or none
-    const bool isSelfDetaching = false; // with the unmount
-    const QDBusObjectPath drive = {}; // that ejects, or none
+    const std::string mountPoint;
+
+    // Set by unmount(), because the service forgets the mount points and maybe the device.
+    QDBusObjectPath image = {}; // the loop device of the whole disk image, or none
+    bool isSelfDetaching = false; // after the unmount
+    QDBusObjectPath drive = {}; // if it is ejectable
 };
 
-bool DADisk::eject() const
+bool DADisk::unmount(const UDisks2& service)
+{
+    const auto objects = service.objects();
+    const auto volume = std::ranges::find_if(objects, [&](const UDisks2::Object& object) {
+        return std::ranges::count(object.mountPoints, mountPoint, &QByteArray::constData) > 0;
+    });
+    if (volume == objects.end())
+        return false;
+    const auto wholeDisk = volume->table.path().isEmpty() ? volume.key() : volume->table;
+    const UDisks2::Object device = objects.value(wholeDisk);
+    image = *device.backingFile.constData() ? wholeDisk : QDBusObjectPath();
+    isSelfDetaching = device.isSelfDetaching;
+    drive = objects.value(volume->drive).isEjectable ? volume->drive : QDBusObjectPath();
+
+    return service.call(volume.key(), "Filesystem", "Unmount");
+}
+
+bool DADisk::eject(const UDisks2& service)
 {
     if (image.path().isEmpty())
-        return session->call(drive, "Drive", "Eject"); // an error, where there is none
-    // The answer tells nothing: it is yes also for a device that is in use, and lets go of its
-    // image when it no longer is. Not asked for what is done already: UDisks 2.10.1 may crash as it
-    // refuses.
+        return service.call(drive, "Drive", "Eject"); // fails if there is none
+    // The reply is ignored: if the device is in use, it is success too, and the kernel detaches the
+    // image after the last close. An image that detaches itself may be gone already, and UDisks
+    // 2.10.1 may crash when it refuses the call for that reason.
     if (!isSelfDetaching)
-        session->call(image, "Loop", "Delete");
+        service.call(image, "Loop", "Delete");
     return true;
 }
 
 DASessionRef DASessionCreate(CFAllocatorRef)
 {
-    const auto session = std::make_shared<DASession>();
-    return session->isConnected() ? session : nullptr;
+    return std::make_shared<DASession>();
 }
 
 void DASessionScheduleWithRunLoop(const DASessionRef& session, CFRunLoopRef runLoop, CFRunLoopMode)
@@ -55,27 +74,14 @@ void DASessionUnscheduleFromRunLoop(const DASessionRef& session, CFRunLoopRef, C
 
 DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session, const NSURL& path)
 {
-    const auto objects = session->objects();
-    const auto volume = std::ranges::find_if(objects, [&](const UDisks2::Object& object) {
-        return std::ranges::any_of(object.mountPoints,
-            [&](const QByteArray& place) { return path.path() == place.constData(); });
-    });
-    if (volume == objects.end())
-        return nullptr;
-    const auto wholeDisk = volume->table.path().isEmpty() ? volume.key() : volume->table;
-    const UDisks2::Object device = objects.value(wholeDisk);
-    const bool isImage = *device.backingFile.constData() != '\0';
-    const bool isEjectable = objects.value(volume->drive).isEjectable;
-    return std::make_shared<DADisk>(
-        DADisk { session, volume.key(), isImage ? wholeDisk : QDBusObjectPath(),
-            device.isSelfDetaching, isEjectable ? volume->drive : QDBusObjectPath() });
+    return std::make_shared<DADisk>(DADisk { session, path.path() });
 }
 
 namespace {
 
-// Calls back on the main thread, whose loop is the one there is, if the session is scheduled by
+// Runs the callback on the main thread, which has the only run loop, if the session is scheduled by
 // then.
-void answer(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
+void reply(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
 {
     DispatchQueue::main().async([=] {
         const DADissenter dissenter;
@@ -84,16 +90,23 @@ void answer(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callbac
     });
 }
 
-// On a thread of its own, as the calls to the service wait for their answers. Where there is none,
-// that is a refusal.
-void request(const DADiskRef& disk, bool (DADisk::*work)() const, DADiskUnmountCallback callback,
-    void* context)
+// Connects on one thread and works on another, because connecting may block for ever. The request
+// is refused if no thread or no connection is available.
+void request(const DADiskRef& disk, bool (DADisk::*work)(const UDisks2&),
+    DADiskUnmountCallback callback, void* context)
 {
+    constexpr std::chrono::seconds timeout(20);
     try {
+        const auto connection = std::make_shared<std::promise<std::unique_ptr<UDisks2>>>();
         DispatchQueue::global().async(
-            [=] { answer(disk, (disk.get()->*work)(), callback, context); });
+            [connection] { connection->set_value(std::make_unique<UDisks2>()); });
+        DispatchQueue::global().async([=] {
+            auto service = connection->get_future();
+            const bool isConnected = service.wait_for(timeout) == std::future_status::ready;
+            reply(disk, isConnected && (disk.get()->*work)(*service.get()), callback, context);
+        });
     } catch (const NSError&) {
-        answer(disk, false, callback, context);
+        reply(disk, false, callback, context);
     }
 }
 

@@ -5,38 +5,37 @@
 #include <QDBusObjectPath>
 #include <QMap>
 
-// The disk service, over a connection to the system bus of its own: a bus that has gone away once
-// spoils no later attempt. Every call waits for its answer, on any thread. An answer of another
-// type than documented is as good as none.
+// The disk service UDisks2, over a system bus connection of its own, so that a lost connection does
+// not affect later ones. Every call blocks until the reply arrives; safe on any thread, but not for
+// the main thread. A reply of an undocumented type counts as an error.
 class UDisks2 {
 public:
-    // A device or a drive. What it doesn't have is empty.
+    // A block device or a drive. A property that the object does not have is empty.
     struct Object {
-        QByteArrayList mountPoints; // bytes up to a NUL, each
+        QByteArrayList mountPoints; // each ends at its first NUL
         QDBusObjectPath table; // of a partition: the whole disk
         QDBusObjectPath drive;
-        QByteArray backingFile; // of a loop device, bytes up to a NUL
-        bool isSelfDetaching = false; // one that lets go of its file with its last user
+        QByteArray backingFile; // of a loop device; ends at its first NUL
+        bool isSelfDetaching = false; // a loop device with the autoclear flag
         bool isEjectable = false;
     };
     using Objects = QMap<QDBusObjectPath, Object>;
 
+    // Connects. Blocks until the bus has replied, for ever if it does not accept the connection. If
+    // the bus cannot be reached, every call fails.
     UDisks2();
     ~UDisks2();
     UDisks2(const UDisks2&) = delete;
     UDisks2& operator=(const UDisks2&) = delete;
 
-    bool isConnected() const { return m_bus.isConnected(); }
-
-    // All that the service knows at that moment: nothing where the service or the bus is gone.
+    // Returns the current objects of the service, or none on an error.
     Objects objects() const;
 
-    // Calls a method that takes options, with none, and answers nothing. There is no limit to the
-    // time it takes: data is written to a disk, a person is asked for a password. `interface` is
-    // the name's last part. Whether it was granted.
+    // Calls a method whose only argument is a dictionary of options (here empty) and that returns
+    // nothing. `interface` is the last part of its name. Returns whether the call succeeded. Has no
+    // timeout, because the service may flush data or ask the user for a password.
     bool call(const QDBusObjectPath& object, const char* interface, const char* method) const;
 
 private:
-    const QString m_name;
     QDBusConnection m_bus;
 };

@@ -9,22 +9,22 @@
 namespace {
 
 constexpr const char* service = "org.freedesktop.UDisks2";
-constexpr int busDefault = -1;
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
-using Interfaces = QMap<QString, QVariantMap>; // the properties by their interface
+using Interfaces = QMap<QString, QVariantMap>; // properties by interface
 
 QString fullName(const char* interface)
 {
     return QString(service) + '.' + interface;
 }
 
-bool isGranted(const QDBusMessage& answer, const char* signature)
+bool isSuccess(const QDBusMessage& reply, const char* signature)
 {
-    return answer.type() == QDBusMessage::ReplyMessage && answer.signature() == signature;
+    return reply.type() == QDBusMessage::ReplyMessage && reply.signature() == signature;
 }
 
-// As empty where there is no such property, or one of another type, which must not be read.
+// Returns an empty value if the property does not exist or has another type, because reading a
+// QDBusArgument as another type is undefined.
 template <class Value>
 Value read(const Interfaces& object, const char* interface, const char* name, const char* signature)
 {
@@ -37,26 +37,32 @@ Value read(const Interfaces& object, const char* interface, const char* name, co
 
 }
 
+// QtDBus serves all connections on one thread. connectToBus() blocks that thread and holds its lock
+// until the bus has authenticated the client and replied to "Hello". connectToPeer() authenticates
+// asynchronously.
 UDisks2::UDisks2()
-    : m_name(QString::number(quintptr(this), 16))
-    , m_bus(QDBusConnection::connectToBus(QDBusConnection::SystemBus, m_name))
+    : m_bus(QDBusConnection::connectToPeer(
+        qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket"),
+        QString::number(quintptr(this), 16)))
 {
+    const char* const bus = "org.freedesktop.DBus";
+    m_bus.call(QDBusMessage::createMethodCall(bus, "/org/freedesktop/DBus", bus, "Hello"));
 }
 
 UDisks2::~UDisks2()
 {
-    QDBusConnection::disconnectFromBus(m_name);
+    QDBusConnection::disconnectFromPeer(m_bus.name());
 }
 
 UDisks2::Objects UDisks2::objects() const
 {
-    const QDBusMessage question = QDBusMessage::createMethodCall(service,
-        "/org/freedesktop/UDisks2", "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
-    const QDBusMessage answer = m_bus.call(question, QDBus::Block, busDefault);
+    const QDBusMessage request = QDBusMessage::createMethodCall(service, "/org/freedesktop/UDisks2",
+        "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
+    const QDBusMessage reply = m_bus.call(request);
     Objects objects;
-    if (!isGranted(answer, "a{oa{sa{sv}}}"))
+    if (!isSuccess(reply, "a{oa{sa{sv}}}"))
         return objects;
-    const auto found = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(answer.arguments().first());
+    const auto found = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(reply.arguments().first());
     for (auto object = found.begin(); object != found.end(); ++object)
         objects[object.key()] = { read<QByteArrayList>(*object, "Filesystem", "MountPoints", "aay"),
             read<QDBusObjectPath>(*object, "Partition", "Table", "o"),
@@ -69,9 +75,9 @@ UDisks2::Objects UDisks2::objects() const
 
 bool UDisks2::call(const QDBusObjectPath& object, const char* interface, const char* method) const
 {
-    QDBusMessage question
+    QDBusMessage request
         = QDBusMessage::createMethodCall(service, object.path(), fullName(interface), method);
-    question.setArguments({ QVariantMap() });
-    question.setInteractiveAuthorizationAllowed(true);
-    return isGranted(m_bus.call(question, QDBus::Block, noTimeout), "");
+    request.setArguments({ QVariantMap() });
+    request.setInteractiveAuthorizationAllowed(true);
+    return isSuccess(m_bus.call(request, QDBus::Block, noTimeout), "");
 }

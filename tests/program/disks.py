@@ -60,7 +60,7 @@ class DiskImage:
 class DetachTest(InstallerTest):
     @classmethod
     def setUpClass(cls):
-        require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "mkfs.btrfs", "mksquashfs", "sfdisk", "losetup")
+        require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "faketime", "mkfs.btrfs", "mksquashfs", "sfdisk", "losetup")
         super().setUpClass()
         os.makedirs(os.path.dirname(BUS))
         start_bus("--address=unix:path=" + BUS)

@@ -1,4 +1,5 @@
 import os
+import socket
 import time
 
 from disks import DetachTest, DiskImage
@@ -21,6 +22,21 @@ class Detach(DetachTest):
             self.assertEqual(self.run_installer("-install2", image.bundle), self.log_of(image))
             self.assertTrue(image.is_attached())
         await_that(lambda: not image.is_attached())
+
+    def test_bus_without_authentication(self):
+        image = DiskImage(self)
+        mount(self, "/dev/shm", "-t", "tmpfs", "none")  # libfaketime leaves files there
+        with socket.socket(socket.AF_UNIX) as bus:
+            bus.bind("/tmp/bus")
+            bus.listen(9)
+            log = self.run_installer("-install2", image.bundle, env=os.environ | {
+                "DBUS_SYSTEM_BUS_ADDRESS": "unix:path=/tmp/bus", "FAKETIME": "+0 x80",
+                "LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1"})
+            self.assertEqual(log, self.log_of(image, "d failed"))
+            bus.settimeout(0)
+            for _attempt in range(7):
+                bus.accept()[0].close()
+            self.assertRaises(BlockingIOError, bus.accept)
 
 
 class Patience(DetachTest):

@@ -5,34 +5,36 @@
 
 #include <memory>
 
-// A disk as the disk service knows it. Safe on any thread.
+// A disk with a mounted volume. Safe on any thread; one request at a time.
 class DADisk;
 using DADiskRef = std::shared_ptr<DADisk>;
 
-// The disk with the volume that is mounted at `path`; nullptr where the service, which is waited
-// for, knows none.
+// Returns the disk whose volume is mounted at `path`. Unlike DiskArbitration, does no I/O and is
+// never nullptr: DADiskUnmount is refused if no volume is mounted there.
 DADiskRef DADiskCreateFromVolumePath(
     CFAllocatorRef allocator, const DASessionRef& session, const NSURL& path);
 
 enum DADiskUnmountOptions { kDADiskUnmountOptionDefault };
 enum DADiskEjectOptions { kDADiskEjectOptionDefault };
 
-// That a request was refused. Unlike in DiskArbitration, it doesn't say why: nobody asks.
+// States that a request was refused. Unlike DiskArbitration, contains no reason.
 struct DADissenter {};
 
-// Tells the end of a request, once. `dissenter` is nullptr if it was granted, and gone after the
-// callback; `context` is what came with the request.
+// Runs once, after the end of a request. `dissenter` is nullptr if the request was granted; it is
+// valid until the callback returns. `context` is the argument of the request.
 using DADiskUnmountCallback
     = void (*)(const DADiskRef& disk, const DADissenter* dissenter, void* context);
 using DADiskEjectCallback = DADiskUnmountCallback;
 
-// Return at once. A request takes as long as the service does, or a person whom it asks.
+// Requests return at once. They are refused if the service cannot be reached within 20 seconds, but
+// have no timeout while the service works, because it may flush data or ask the user.
 
-// Unmounts the volume, unless it is in use.
+// Unmounts the volume. Refused if it is busy.
 void DADiskUnmount(const DADiskRef& disk, DADiskUnmountOptions options,
     DADiskUnmountCallback callback, void* context);
 
-// Ejects the whole disk of the volume; if that is a disk image, detaches it from its device as soon
-// as nobody uses that, which is never refused.
+// Ejects the whole disk. Unlike DiskArbitration, requires a granted DADiskUnmount. A disk image is
+// detached from its loop device; if the device is in use, that is granted and happens after the
+// last close.
 void DADiskEject(
     const DADiskRef& disk, DADiskEjectOptions options, DADiskEjectCallback callback, void* context);
