@@ -42,7 +42,13 @@ bool DADisk::unmount(const UDisks2& service)
     isSelfDetaching = device.isSelfDetaching;
     drive = objects.value(volume->drive).isEjectable ? volume->drive : QDBusObjectPath();
 
-    return service.call(volume.key(), "Filesystem", "Unmount");
+    // Each call removes one mount point. The limit is for a service that removes none.
+    constexpr int callLimit = 100;
+    int calls = 0;
+    while (calls++ < callLimit && service.call(volume.key(), "Filesystem", "Unmount"))
+        if (service.objects().value(volume.key()).mountPoints.isEmpty())
+            return true;
+    return false;
 }
 
 bool DADisk::eject(const UDisks2& service)

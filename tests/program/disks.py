@@ -15,8 +15,9 @@ LOOPS = "/dev/loop-control"
 class DiskImage:
     """An image that contains a bundle, mounted until the end of the test and known to the service.
 
-    `kind` is "attached" (the loop device keeps the image after an unmount), "self-detaching",
-    "partitioned" (the bundle is in a partition) or "btrfs" (the bundle is in a default subvolume).
+    `kind` is "attached" (the loop device keeps the image after an unmount), "mounted twice",
+    "self-detaching", "partitioned" (the bundle is in a partition) or "btrfs" (the bundle is in a
+    default subvolume).
     """
 
     def __init__(self, test, mount_point="/Volumes/quillbarn installer", kind="attached"):
@@ -39,6 +40,8 @@ class DiskImage:
         if kind == "partitioned":
             run("sfdisk", self.device, input="label: dos\nstart=1MiB\n")
             run("partx", "--update", self.device)  # a kernel without support for the table
+        if kind == "mounted twice":
+            run("mount", "--mkdir", self.volume, "/Volumes/first")
         run("mount", self.volume, mount_point)
         if kind == "self-detaching":
             run("losetup", "--detach", self.device)  # sets autoclear, because the device is busy

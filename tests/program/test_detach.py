@@ -3,14 +3,14 @@ import socket
 import time
 
 from disks import DetachTest, DiskImage
-from machine import LOG, await_that, mount, remove, write
+from machine import LOG, await_that, mount, remove, run, write
 
 
 class Detach(DetachTest):
     def test_kinds_of_image(self):
         usual = "/Volumes/quillbarn installer"
-        for kind, mount_point in (("attached", usual), ("self-detaching", usual), ("partitioned", usual),
-                                  ("btrfs", usual), ("attached", "/Volumes/ü\t\\ \udcff")):
+        for kind, mount_point in (("attached", usual), ("mounted twice", usual), ("self-detaching", usual),
+                                  ("partitioned", usual), ("btrfs", usual), ("attached", "/Volumes/ü\t\\ \udcff")):
             with self.subTest(kind=kind, mount_point=mount_point):
                 remove(LOG)
                 image = DiskImage(self, mount_point, kind)
@@ -43,9 +43,10 @@ class Patience(DetachTest):
     """Slow detaches. Each test has a private namespace of its own, so that all run at once."""
 
     def test_becomes_free(self):
-        """The volume is busy for longer than one pause."""
+        """Another mount point of the volume is busy, for longer than one pause."""
         image = DiskImage(self)
-        with open(image.bundle + "/quillbarn"):
+        run("mount", "--bind", "--mkdir", image.bundle, "/Volumes/second")
+        with open("/Volumes/second/quillbarn"):
             installer = self.start("-install2", image.bundle)
             self.screen.await_window("Ejecting the disk image: waiting for the volume to be free")
             self.assertGreater(len(set(self.screen.picture())), 2)  # not a black window

@@ -29,7 +29,8 @@ using DADiskEjectCallback = DADiskUnmountCallback;
 // Requests return at once. They are refused if the service cannot be reached within 20 seconds, but
 // have no timeout while the service works, because it may flush data or ask the user.
 
-// Unmounts the volume. Refused if it is busy.
+// Unmounts the volume from all its mount points. Refused as soon as one of them is busy; those
+// unmounted by then stay unmounted.
 void DADiskUnmount(const DADiskRef& disk, DADiskUnmountOptions options,
     DADiskUnmountCallback callback, void* context);
 
