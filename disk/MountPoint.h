@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-// The mounted volume on which `path` lies, or none. `path` is absolute; the root volume and hidden
-// volumes are never chosen. The first volume in the platform's order whose path, followed by "/",
-// begins `path` wins. Safe on any thread.
+// Returns the mount point of the volume that contains `path`, or nothing. `path` is absolute. The
+// root volume and hidden volumes are never returned. If several volumes match, the first in the
+// platform's order wins. Safe on any thread.
 std::optional<NSURL> getDMGMountPointURL(const std::string& path);

@@ -31,7 +31,7 @@ void UnmountTask::run() const
     tryEject();
 }
 
-// What can't be looked at is still there.
+// A path that cannot be examined counts as existing.
 bool UnmountTask::pathExists() const
 try {
     return NSFileManager::defaultManager().fileExistsAtPath(m_path);
@@ -52,7 +52,7 @@ void UnmountTask::tryEject() const
         sharedLogger().log("getDMGMountPointURL failed", Logger::LogLevel::debug);
         return checkUnmountResult();
     }
-    // A process whose working folder is on the volume keeps it in use.
+    // A working directory on the volume makes it busy.
     NSFileManager::defaultManager().changeCurrentDirectoryPath("/");
     std::make_shared<DiskImageEjector>()->eject(*volumeURL,
         [task = *this](DiskImageEjector::Result result) { task.onEjectResult(result); });

@@ -7,16 +7,16 @@
 #include <memory>
 #include <string>
 
-// Detaches the disk image that holds a path, trying again while it is in use. It has succeeded when
-// the path is gone. Each step that runs later holds a copy of the task.
+// Detaches the disk image that contains a path, with at most seven attempts. It has succeeded if
+// the path no longer exists. Each step that runs later has a copy of the task.
 class UnmountTask {
 public:
-    // `ejectLoop` counts the attempts, written by one thread after the other; it lives as long as
-    // the report.
+    // `ejectLoop` counts the attempts. Threads write it one after the other. It must outlive the
+    // report.
     UnmountTask(std::shared_ptr<TaskReport> report, std::string path, std::int64_t& ejectLoop);
 
-    // Returns when the first attempt has started, or the end was reported. All that follows happens
-    // on the main thread, the pauses between attempts too.
+    // Returns after the first attempt has started or the end was reported. Everything else runs on
+    // the main thread, including the pauses between attempts.
     void run() const;
 
 private:

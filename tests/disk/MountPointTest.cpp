@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(MountPoint, isThatOfTheFirstVolumeWhosePathBeginsThePath)
+TEST(MountPoint, IsFirstMatchingVolume)
 {
     const auto mountPointOf = [](const char* path, const std::vector<std::string>& volumes) {
         foundation.mountPoints = volumes;

@@ -16,9 +16,9 @@ namespace {
 
 DASessionRef scheduled; // with the main thread's loop
 
-// Passes the disk on without keeping it, so that its release shows. A callback without context has
-// no request.
-void answer(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
+// Does not own the disk, so that the test sees its release. A callback without context must do
+// nothing.
+void reply(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
 {
     callback(disk, nullptr, nullptr);
     if (disk->session != scheduled)
@@ -63,11 +63,11 @@ void DADiskUnmount(
     const bool isGranted = diskArbitration.refusals-- <= 0;
     if (isGranted && diskArbitration.holdsBundle)
         std::filesystem::remove_all("/Applications/quillbarn.app");
-    answer(disk, isGranted, callback, context);
+    reply(disk, isGranted, callback, context);
 }
 
 void DADiskEject(
     const DADiskRef& disk, DADiskEjectOptions, DADiskEjectCallback callback, void* context)
 {
-    answer(disk, diskArbitration.isEjected, callback, context);
+    reply(disk, diskArbitration.isEjected, callback, context);
 }

@@ -2,18 +2,17 @@
 
 #include <DiskArbitration/DADisk.h>
 
-// A disk service that does what the test says.
+// A disk service with configured replies.
 struct DiskArbitrationFake {
     bool hasSession = true;
     bool hasDisk = true;
     int refusals = 0; // to unmount
-    bool holdsBundle = true; // the volume: with it the one in the applications folder goes
+    bool holdsBundle = true; // unmounting removes the bundle in the applications folder
     bool isEjected = true;
 
     bool isInCallback = false;
-    std::weak_ptr<DASession> session = {}; // the last; a disk holds its own, and so does a schedule
+    std::weak_ptr<DASession> session = {}; // the last; disks and the schedule own sessions
 };
 
-// The one that answers. A request is answered by the main thread's loop, if the session is
-// scheduled there.
+// The service that replies, on the main thread's loop, if the session is scheduled there.
 inline DiskArbitrationFake diskArbitration;
