@@ -18,7 +18,4 @@ void AppDelegate::applicationWillTerminate()
     sharedLogger().close();
 }
 
-bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed(NSApplication&)
-{
-    return true;
-}
+bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed(NSApplication&) { return true; }

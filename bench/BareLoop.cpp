@@ -45,8 +45,7 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
     struct stat status = {};
     require(stat(folder.c_str(), &status) == 0, folder);
     DIR* const directory = opendir(folder.c_str());
-    if (!directory)
-        return require(false, folder);
+    if (!directory) return require(false, folder);
     std::vector<std::string> names;
     while (const dirent* item = readdir(directory))
         if (const std::string name = item->d_name; name != "." && name != "..")
@@ -55,8 +54,7 @@ void list(const std::string& folder, const std::string& prefix, std::vector<Entr
     for (const std::string& name : names) {
         require(stat((folder + name).c_str(), &status) == 0, folder + name);
         entries.push_back({ S_ISDIR(status.st_mode), prefix + name });
-        if (S_ISDIR(status.st_mode))
-            list(folder + name + "/", prefix + name + "/", entries);
+        if (S_ISDIR(status.st_mode)) list(folder + name + "/", prefix + name + "/", entries);
     }
 }
 
@@ -151,8 +149,7 @@ template <class Signal> void BareLoop<Signal>::perform(const std::string& source
     const bool removes = source.empty();
     std::vector<Entry> entries { { true, bundle } };
     list((removes ? applications : source) + bundle + "/", bundle + "/", entries);
-    if (removes)
-        std::reverse(entries.begin(), entries.end());
+    if (removes) std::reverse(entries.begin(), entries.end());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const auto& [isFolder, name] = entries[i];
         const std::string path = applications + name;

@@ -72,8 +72,7 @@ private:
         const auto end = Clock::now() + std::chrono::microseconds(200);
         do {
             for (int look = 0; look < 32; ++look, relax())
-                if (m_isRaised.load(std::memory_order_acquire))
-                    return true;
+                if (m_isRaised.load(std::memory_order_acquire)) return true;
         } while (Clock::now() < end);
         return false;
     }

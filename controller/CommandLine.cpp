@@ -44,15 +44,13 @@ std::optional<ViewController::CommandLineOption> ViewController::parseCommandLin
             path = text;
         else
             option = std::ranges::find(options, text, &Option::argument);
-        if (option != options.end() && option->mode == Mode::uninstall)
-            path = "";
+        if (option != options.end() && option->mode == Mode::uninstall) path = "";
     }
     if (m_test) {
         option = std::ranges::find(options, Mode::unmount, &Option::mode);
         path = "/Volumes/quillbarn installer/quillbarn.app";
     }
-    if (!path)
-        return std::nullopt;
+    if (!path) return std::nullopt;
 
     sharedLogger().log(option->name + (' ' + *path), Logger::LogLevel::debug);
     return CommandLineOption { option->mode, *path };

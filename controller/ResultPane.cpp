@@ -88,8 +88,7 @@ void ViewController::giveKeyboardToButton()
 void ViewController::finish()
 {
     assert(NSThread::isMainThread());
-    if (!m_test)
-        return closeWindow();
+    if (!m_test) return closeWindow();
     resultButton->setEnabled(true);
     giveKeyboardToButton();
 }
@@ -100,7 +99,4 @@ void ViewController::closeWindow()
     view()->window()->close();
 }
 
-void ViewController::resultButtonClicked(const NSView*)
-{
-    closeWindow();
-}
+void ViewController::resultButtonClicked(const NSView*) { closeWindow(); }

@@ -32,8 +32,7 @@ void ViewController::prepareWindow()
     resultText->setStringValue("");
     resultTextScrollView->setDocumentView(resultText.lock());
     resultButton->setEnabled(false);
-    if (!m_test)
-        resultPainViewHeightConstraint->setConstant(0.0);
+    if (!m_test) resultPainViewHeightConstraint->setConstant(0.0);
 }
 
 // The task keeps the controller until it has run.
@@ -41,8 +40,7 @@ void ViewController::startTask(const CommandLineOption& option)
 {
     WindowReport report(self(), option.mode);
     report.begin();
-    if (option.mode == Mode::unmount)
-        progressIndicator->setDoubleValue(1.0);
+    if (option.mode == Mode::unmount) progressIndicator->setDoubleValue(1.0);
     try {
         DispatchQueue::global().async([controller = self(), option] {
             switch (option.mode) {

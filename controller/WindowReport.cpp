@@ -7,8 +7,7 @@
 #include <array>
 
 WindowReport::WindowReport(std::shared_ptr<ViewController> controller, ViewController::Mode mode)
-    : m_controller(std::move(controller))
-    , m_titles(titlesOf(mode))
+    : m_controller(std::move(controller)), m_titles(titlesOf(mode))
 {
 }
 
@@ -40,10 +39,7 @@ void WindowReport::setProgress(std::int64_t index, std::int64_t count)
     DispatchQueue::main().sync([&] { m_controller->setProgress(index, count); });
 }
 
-void WindowReport::showWaiting()
-{
-    m_controller->setTitle(m_titles.waiting);
-}
+void WindowReport::showWaiting() { m_controller->setTitle(m_titles.waiting); }
 
 void WindowReport::closeWindow()
 {

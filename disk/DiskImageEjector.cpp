@@ -5,10 +5,7 @@
 
 namespace {
 
-CFRunLoopRef mainRunLoop()
-{
-    return NSRunLoop::mainRunLoop().getCFRunLoop();
-}
+CFRunLoopRef mainRunLoop() { return NSRunLoop::mainRunLoop().getCFRunLoop(); }
 
 }
 
@@ -20,11 +17,9 @@ void DiskImageEjector::eject(const NSURL& volumeURL, Completion completion)
     };
     auto* const allocator = CFAllocatorGetDefault();
     const DASessionRef session = DASessionCreate(allocator);
-    if (!session)
-        return fail();
+    if (!session) return fail();
     const DADiskRef disk = DADiskCreateFromVolumePath(allocator, session, volumeURL);
-    if (!disk)
-        return fail();
+    if (!disk) return fail();
 
     m_completion = std::move(completion);
     m_session = session;
@@ -37,8 +32,7 @@ void DiskImageEjector::eject(const NSURL& volumeURL, Completion completion)
 void DiskImageEjector::unmountCallback(
     const DADiskRef&, const DADissenter* dissenter, void* context)
 {
-    if (context)
-        static_cast<DiskImageEjector*>(context)->unmountCompleted(dissenter);
+    if (context) static_cast<DiskImageEjector*>(context)->unmountCompleted(dissenter);
 }
 
 void DiskImageEjector::unmountCompleted(const DADissenter* dissenter)
@@ -51,8 +45,7 @@ void DiskImageEjector::unmountCompleted(const DADissenter* dissenter)
 
 void DiskImageEjector::ejectCallback(const DADiskRef&, const DADissenter* dissenter, void* context)
 {
-    if (context)
-        static_cast<DiskImageEjector*>(context)->ejectCompleted(dissenter);
+    if (context) static_cast<DiskImageEjector*>(context)->ejectCompleted(dissenter);
 }
 
 void DiskImageEjector::ejectCompleted(const DADissenter* dissenter)
@@ -69,8 +62,7 @@ void DiskImageEjector::complete(Result result)
 
 void DiskImageEjector::cleanUp()
 {
-    if (m_session)
-        DASessionUnscheduleFromRunLoop(m_session, mainRunLoop(), kCFRunLoopDefaultMode);
+    if (m_session) DASessionUnscheduleFromRunLoop(m_session, mainRunLoop(), kCFRunLoopDefaultMode);
     m_disk = nullptr;
     m_session = nullptr;
 }

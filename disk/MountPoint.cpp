@@ -11,10 +11,8 @@ std::optional<NSURL> getDMGMountPointURL(const std::string& path)
         = NSFileManager::defaultManager().mountedVolumeURLsIncludingResourceValuesForKeys(
             keys, NSVolumeEnumerationSkipHiddenVolumes);
     for (const NSURL& volume : volumes) {
-        if (volume.scheme() != "file" || volume.path() == "/")
-            continue;
-        if (NSString::hasPrefix(path, volume.path() + "/"))
-            return volume;
+        if (volume.scheme() != "file" || volume.path() == "/") continue;
+        if (NSString::hasPrefix(path, volume.path() + "/")) return volume;
     }
     return std::nullopt;
 }

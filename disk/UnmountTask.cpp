@@ -16,9 +16,7 @@ constexpr double pauseAfterFailure = 5.0; // seconds
 
 UnmountTask::UnmountTask(
     std::shared_ptr<TaskReport> report, std::string path, std::int64_t& ejectLoop)
-    : m_report(std::move(report))
-    , m_path(std::move(path))
-    , m_ejectLoop(ejectLoop)
+    : m_report(std::move(report)), m_path(std::move(path)), m_ejectLoop(ejectLoop)
 {
 }
 
@@ -61,8 +59,7 @@ void UnmountTask::tryEject() const
 void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
 {
     DispatchQueue::main().async([task = *this, result] {
-        if (result == DiskImageEjector::Result::succeeded)
-            return task.checkUnmountResult();
+        if (result == DiskImageEjector::Result::succeeded) return task.checkUnmountResult();
         task.m_report->showWaiting();
         NSThread::sleepForTimeInterval(pauseAfterFailure);
         task.tryEject();

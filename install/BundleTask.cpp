@@ -90,16 +90,13 @@ void BundleTask::removeBundle(TopFolder topFolder, const Progress& progress)
 {
     changes();
     Files files = listInstalled();
-    if (topFolder == TopFolder::exclude && !files.empty())
-        files.erase(files.begin());
+    if (topFolder == TopFolder::exclude && !files.empty()) files.erase(files.begin());
     for (std::size_t k = 0; k < files.size(); ++k) {
         const BundleTree::File& file = files[files.size() - 1 - k];
         const std::string path = m_applicationDir + file.path;
         m_report.showMessage("remove " + path + (file.isDirectory ? "/" : ""));
-        if (!m_isDryRun)
-            changes().removeItemAtPath(path);
-        if (progress)
-            progress(std::int64_t(k), std::int64_t(files.size()));
+        if (!m_isDryRun) changes().removeItemAtPath(path);
+        if (progress) progress(std::int64_t(k), std::int64_t(files.size()));
     }
 }
 
@@ -121,8 +118,7 @@ BundleTask::Files BundleTask::listInstalled() const
         throw NSError(
             NSLocalizedString("Errors", "“%1” couldn’t be changed because it is a link, to “%2”."),
             { bundle, *destination });
-    if (!fileManager.fileExistsAtPath(bundle))
-        return {};
+    if (!fileManager.fileExistsAtPath(bundle)) return {};
     return listBundle(
         m_applicationDir, [this](const auto&... visited) { requireOwnFolder(visited...); });
 }
@@ -138,8 +134,7 @@ void BundleTask::requireOwnFolder(
                 "“%1” couldn’t be installed because it is “%2”, which would be emptied first."),
             { same->second, folder });
 
-    if (!fileManager.destinationOfSymbolicLinkAtPath(folder))
-        return;
+    if (!fileManager.destinationOfSymbolicLinkAtPath(folder)) return;
     const std::string bundle = m_applicationDir + m_bundleDir;
     const std::string destination = fileManager.stringByResolvingSymlinksInPath(folder);
     if (!destination.starts_with(fileManager.stringByResolvingSymlinksInPath(bundle) + "/"))
@@ -154,12 +149,10 @@ void BundleTask::requireOwnFolder(
 void BundleTask::requireFreeName(const std::string& sourcePath, const BundleTree::File& file) const
 {
     const std::string path = m_applicationDir + file.path;
-    if (std::ranges::count(file.path, '/') != 1)
-        return;
+    if (std::ranges::count(file.path, '/') != 1) return;
     const NSFileManager& fileManager = NSFileManager::defaultManager();
     const auto link = fileManager.destinationOfSymbolicLinkAtPath(path);
-    if (!link || fileManager.fileExistsAtPath(path))
-        return;
+    if (!link || fileManager.fileExistsAtPath(path)) return;
     if (leadsOutOfItsFolder(*link)
         || link != fileManager.destinationOfSymbolicLinkAtPath(sourcePath + file.path))
         throw NSError(
@@ -174,8 +167,7 @@ void BundleTask::createEntry(const std::string& sourcePath, const BundleTree::Fi
     const std::string destination = m_applicationDir + file.path;
     m_report.showMessage((file.isDirectory ? "mkdir " : " copy ") + destination);
     if (m_isDryRun) {
-        if (!file.isDirectory)
-            NSThread::sleepForTimeInterval(dryRunPerFile);
+        if (!file.isDirectory) NSThread::sleepForTimeInterval(dryRunPerFile);
     } else if (file.isDirectory)
         changes().createDirectoryAtPath(destination);
     else
@@ -189,6 +181,5 @@ ConfinedFolder& BundleTask::changes()
 
 void BundleTask::synchronize()
 {
-    if (!m_isDryRun)
-        changes().synchronize();
+    if (!m_isDryRun) changes().synchronize();
 }

@@ -8,10 +8,7 @@ namespace {
 
 class TreeWalk {
 public:
-    explicit TreeWalk(const BundleTree::Visitor& visit)
-        : m_visit(visit)
-    {
-    }
+    explicit TreeWalk(const BundleTree::Visitor& visit) : m_visit(visit) {}
 
     // `folder` has no "/" at its end, `prefix` has.
     void walk(const std::string& folder, const std::string& prefix);
@@ -33,11 +30,9 @@ void TreeWalk::walk(const std::string& folder, const std::string& prefix)
     for (const std::string& name : m_fileManager.contentsOfDirectoryAtPath(start)) {
         const std::string path = start + name;
         bool isDirectory = false;
-        if (!m_fileManager.fileExistsAtPath(path, isDirectory))
-            continue;
+        if (!m_fileManager.fileExistsAtPath(path, isDirectory)) continue;
         files.push_back({ isDirectory, prefix + name });
-        if (isDirectory)
-            walk(path, prefix + name + "/");
+        if (isDirectory) walk(path, prefix + name + "/");
     }
     m_ancestors.erase(identity);
 }
@@ -55,8 +50,7 @@ FileIdentity TreeWalk::enter(const std::string& folder)
                           "The link “%1” couldn’t be followed because it leads "
                           "back to “%2/”, a folder that holds it."),
             { folder, known->second });
-    if (m_visit)
-        m_visit(m_fileManager, folder, identity);
+    if (m_visit) m_visit(m_fileManager, folder, identity);
     return identity;
 }
 

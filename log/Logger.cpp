@@ -5,10 +5,7 @@
 
 namespace {
 
-char letterOf(Logger::LogLevel level)
-{
-    return "inwedt"[std::size_t(level)];
-}
+char letterOf(Logger::LogLevel level) { return "inwedt"[std::size_t(level)]; }
 
 void replaceAll(std::string& text, const std::string& from, const std::string& to)
 {
@@ -30,16 +27,14 @@ Logger::Logger(const std::string& path)
 {
     m_formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
     const NSFileManager& files = NSFileManager::defaultManager();
-    if (!files.createFileAtPath(path))
-        return;
+    if (!files.createFileAtPath(path)) return;
     m_file = NSFileHandle::fileHandleForWritingAtPath(path);
 }
 
 void Logger::log(const std::string& message, LogLevel level)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_file)
-        return;
+    if (!m_file) return;
     const std::string line = (m_isInEntry ? "\n" : "")
         + m_formatter.stringFromDate(NSDate::clock::now()) + ' '
         + std::to_string(NSProcessInfo::processInfo().processIdentifier()) + ' ' + letterOf(level)
@@ -52,8 +47,7 @@ void Logger::log(const std::string& message, LogLevel level)
 void Logger::close()
 {
     const std::lock_guard lock(m_mutex);
-    if (m_file)
-        m_file->closeFile();
+    if (m_file) m_file->closeFile();
     m_file = nullptr;
 }
 

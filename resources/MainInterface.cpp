@@ -33,8 +33,7 @@ std::shared_ptr<ViewController> openMainInterface(WindowQt& window)
     window.setDefaultButton(*ui.resultButton);
     QObject::connect(ui.resultButton, &QPushButton::clicked,
         [button = ui.resultButton, weak = std::weak_ptr(controller)] {
-            if (const auto target = weak.lock())
-                target->resultButtonClicked(button);
+            if (const auto target = weak.lock()) target->resultButtonClicked(button);
         });
     return controller;
 }

@@ -15,11 +15,7 @@
 // The default button once it is told so, and no sooner.
 class ButtonQt : public ViewQt<QPushButton, NSButton> {
 public:
-    explicit ButtonQt(QWidget* parent)
-        : ViewQt(parent)
-    {
-        setAutoDefault(false);
-    }
+    explicit ButtonQt(QWidget* parent) : ViewQt(parent) { setAutoDefault(false); }
 
     void setEnabled(bool enabled) override { QPushButton::setEnabled(enabled); }
     void setAccessibilityHelp(const std::string& help) override
@@ -39,8 +35,7 @@ public:
     void setDoubleValue(double value) override
     {
         m_step = std::clamp(stepsAt(value), minimum(), maximum());
-        if (!m_frame.isActive() || m_step == maximum())
-            showStep();
+        if (!m_frame.isActive() || m_step == maximum()) showStep();
     }
 
 private:
@@ -54,8 +49,7 @@ private:
     void timerEvent(QTimerEvent*) override
     {
         m_frame.stop();
-        if (value() != m_step)
-            showStep();
+        if (value() != m_step) showStep();
     }
 
     int m_step = 0;

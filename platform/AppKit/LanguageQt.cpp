@@ -29,8 +29,7 @@ void speakChosenLanguage()
     const QString toolkits = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_";
     for (const QString& catalogue : { ":/i18n/" + language, toolkits + language }) {
         auto* const translator = new QTranslator(qApp);
-        if (translator->load(catalogue))
-            QCoreApplication::installTranslator(translator);
+        if (translator->load(catalogue)) QCoreApplication::installTranslator(translator);
     }
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }

@@ -82,8 +82,7 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
 {
     if (NSApplication::sharedApplication().delegate()) {
         std::fputs(qPrintable(qFormatLogMessage(type, context, message) + '\n'), stderr);
-        if (message.startsWith("The Wayland connection"))
-            endWithoutDisplay();
+        if (message.startsWith("The Wayland connection")) endWithoutDisplay();
     } else if (type == QtFatalMsg) {
         speakChosenLanguage();
         std::fputs((missingDisplay(message.contains("wayland")) + "\n").c_str(), stderr);
@@ -103,8 +102,7 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
     // Where the toolkit loses an X server it calls exit(), which nothing else in the program does.
     std::atexit(endWithoutDisplay);
     window->makeKeyAndOrderFront();
-    if (application.isToBeActive())
-        window->orderFrontRegardless();
+    if (application.isToBeActive()) window->orderFrontRegardless();
     activateDispatchQueues();
     QApplication::exec();
     application.terminate();

@@ -12,9 +12,7 @@
 #include <cmath>
 
 HeightConstraintQt::HeightConstraintQt(QWidget& part)
-    : QVariantAnimation(&part)
-    , m_part(part)
-    , m_constant(part.minimumHeight())
+    : QVariantAnimation(&part), m_part(part), m_constant(part.minimumHeight())
 {
     part.window()->layout()->setSizeConstraint(QLayout::SetMinAndMaxSize);
     setEasingCurve(QEasingCurve::InOutQuad);
@@ -66,8 +64,7 @@ int HeightConstraintQt::prepare(CGFloat constant)
     const bool canMove = !QGuiApplication::platformName().startsWith("wayland");
     const RoomQt room = roomOn(window.screen()->availableGeometry(), frame, window.geometry().top(),
         rest, int(constant), canMove);
-    if (window.isVisible() && room.top != window.y())
-        window.move(window.x(), room.top);
+    if (window.isVisible() && room.top != window.y()) window.move(window.x(), room.top);
     m_part.setMinimumHeight(room.height);
     m_part.resize(layout.contentsRect().width(), room.height);
     m_part.setVisible(constant > 0);

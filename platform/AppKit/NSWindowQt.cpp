@@ -11,10 +11,7 @@
 #include <algorithm>
 #include <chrono>
 
-void WindowQt::setTitle(const std::string& title)
-{
-    setWindowTitle(QString::fromStdString(title));
-}
+void WindowQt::setTitle(const std::string& title) { setWindowTitle(QString::fromStdString(title)); }
 
 void WindowQt::setContentViewController(std::shared_ptr<NSViewController> controller)
 {
@@ -42,12 +39,8 @@ void WindowQt::makeKeyAndOrderFront()
 
 void WindowQt::keyPressEvent(QKeyEvent* event)
 {
-    if (m_defaultButton->isDefault())
-        ViewQt::keyPressEvent(event);
+    if (m_defaultButton->isDefault()) ViewQt::keyPressEvent(event);
 }
 
 // What a person does to the window itself goes to its button, which does nothing while a task runs.
-void WindowQt::reject()
-{
-    m_defaultButton->click();
-}
+void WindowQt::reject() { m_defaultButton->click(); }

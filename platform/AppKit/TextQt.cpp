@@ -12,8 +12,7 @@ constexpr int leastHeight = 40; // points
 
 }
 
-TextQt::TextQt(QWidget* parent)
-    : ViewQt(parent)
+TextQt::TextQt(QWidget* parent) : ViewQt(parent)
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
@@ -36,8 +35,7 @@ void TextQt::setStringValue(std::string_view text)
 void TextQt::appendString(std::string_view text)
 {
     m_unpublished += text;
-    if (isVisible())
-        publish();
+    if (isVisible()) publish();
 }
 
 // The line feed that ends the last line waits for the next: in the widget it would begin one.
@@ -60,10 +58,7 @@ NSSize TextQt::contentSize() const
     return { CGFloat(viewport()->width()), verticalScrollBar()->pageStep() * rowHeight() };
 }
 
-void TextQt::scrollPoint(NSPoint point)
-{
-    goTo(int(std::lround(point.y / rowHeight())));
-}
+void TextQt::scrollPoint(NSPoint point) { goTo(int(std::lround(point.y / rowHeight()))); }
 
 // The rows of a line are known once it is laid out, and by then there may be more of them.
 void TextQt::goTo(int row)
@@ -92,7 +87,6 @@ void TextQt::resizeEvent(QResizeEvent* event)
 {
     const bool wasAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     ViewQt::resizeEvent(event);
-    if (wasAtEnd)
-        goTo(rows());
+    if (wasAtEnd) goTo(rows());
     sizeToFit();
 }

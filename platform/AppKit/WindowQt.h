@@ -14,10 +14,7 @@ class WindowQt : public ViewQt<QDialog, NSView, NSWindow>,
                  public std::enable_shared_from_this<WindowQt> {
 public:
     // `button` is what Escape, once it is told to, and the window's own close control press.
-    WindowQt()
-        : ViewQt(nullptr, Qt::Window)
-    {
-    }
+    WindowQt() : ViewQt(nullptr, Qt::Window) {}
     void setDefaultButton(QPushButton& button) { m_defaultButton = &button; }
 
     // A view or constraint of this window, for an outlet.

@@ -34,8 +34,7 @@ bool DADisk::unmount(const UDisks2& service)
     const auto volume = std::ranges::find_if(objects, [&](const UDisks2::Object& object) {
         return std::ranges::count(object.mountPoints, mountPoint, &QByteArray::constData) > 0;
     });
-    if (volume == objects.end())
-        return false;
+    if (volume == objects.end()) return false;
     const auto wholeDisk = volume->table.path().isEmpty() ? volume.key() : volume->table;
     const UDisks2::Object device = objects.value(wholeDisk);
     image = *device.backingFile.constData() ? wholeDisk : QDBusObjectPath();
@@ -46,8 +45,7 @@ bool DADisk::unmount(const UDisks2& service)
     constexpr int callLimit = 100;
     int calls = 0;
     while (calls++ < callLimit && service.call(volume.key(), "Filesystem", "Unmount"))
-        if (service.objects().value(volume.key()).mountPoints.isEmpty())
-            return true;
+        if (service.objects().value(volume.key()).mountPoints.isEmpty()) return true;
     return false;
 }
 
@@ -58,15 +56,11 @@ bool DADisk::eject(const UDisks2& service)
     // The reply is ignored: if the device is in use, it is success too, and the kernel detaches the
     // image after the last close. An image that detaches itself may be gone already, and UDisks
     // 2.10.1 may crash when it refuses the call for that reason.
-    if (!isSelfDetaching)
-        service.call(image, "Loop", "Delete");
+    if (!isSelfDetaching) service.call(image, "Loop", "Delete");
     return true;
 }
 
-DASessionRef DASessionCreate(CFAllocatorRef)
-{
-    return std::make_shared<DASession>();
-}
+DASessionRef DASessionCreate(CFAllocatorRef) { return std::make_shared<DASession>(); }
 
 void DASessionScheduleWithRunLoop(const DASessionRef& session, CFRunLoopRef runLoop, CFRunLoopMode)
 {
@@ -91,8 +85,7 @@ void reply(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback
 {
     DispatchQueue::main().async([=] {
         const DADissenter dissenter;
-        if (disk->session->runLoop)
-            callback(disk, isGranted ? nullptr : &dissenter, context);
+        if (disk->session->runLoop) callback(disk, isGranted ? nullptr : &dissenter, context);
     });
 }
 

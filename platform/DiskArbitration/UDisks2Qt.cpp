@@ -13,10 +13,7 @@ constexpr int noTimeout = std::numeric_limits<int>::max();
 
 using Interfaces = QMap<QString, QVariantMap>; // properties by interface
 
-QString fullName(const char* interface)
-{
-    return QString(service) + '.' + interface;
-}
+QString fullName(const char* interface) { return QString(service) + '.' + interface; }
 
 bool isSuccess(const QDBusMessage& reply, const char* signature)
 {
@@ -49,10 +46,7 @@ UDisks2::UDisks2()
     m_bus.call(QDBusMessage::createMethodCall(bus, "/org/freedesktop/DBus", bus, "Hello"));
 }
 
-UDisks2::~UDisks2()
-{
-    QDBusConnection::disconnectFromPeer(m_bus.name());
-}
+UDisks2::~UDisks2() { QDBusConnection::disconnectFromPeer(m_bus.name()); }
 
 UDisks2::Objects UDisks2::objects() const
 {
@@ -60,8 +54,7 @@ UDisks2::Objects UDisks2::objects() const
         "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
     const QDBusMessage reply = m_bus.call(request);
     Objects objects;
-    if (!isSuccess(reply, "a{oa{sa{sv}}}"))
-        return objects;
+    if (!isSuccess(reply, "a{oa{sa{sv}}}")) return objects;
     const auto found = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(reply.arguments().first());
     for (auto object = found.begin(); object != found.end(); ++object)
         objects[object.key()] = { read<QByteArrayList>(*object, "Filesystem", "MountPoints", "aay"),

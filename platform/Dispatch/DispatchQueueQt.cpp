@@ -63,10 +63,7 @@ public:
 
 }
 
-DispatchMainQueue& DispatchQueue::main()
-{
-    return mainQueue();
-}
+DispatchMainQueue& DispatchQueue::main() { return mainQueue(); }
 
 DispatchQueue& DispatchQueue::global()
 {

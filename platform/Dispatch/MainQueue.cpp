@@ -22,8 +22,7 @@ struct MainQueue::Completion {
 
     void await()
     {
-        if (!wait.spinUntil(isDone))
-            isDone.wait(false, std::memory_order_acquire);
+        if (!wait.spinUntil(isDone)) isDone.wait(false, std::memory_order_acquire);
     }
 
     void signal()
@@ -38,10 +37,7 @@ MainQueue::MainQueue(std::function<void()> wakeMainThread)
 {
 }
 
-void MainQueue::async(std::function<void()> work)
-{
-    add({ std::move(work), nullptr });
-}
+void MainQueue::async(std::function<void()> work) { add({ std::move(work), nullptr }); }
 
 void MainQueue::sync(const std::function<void()>& work)
 {
@@ -58,8 +54,7 @@ void MainQueue::sync(const std::function<void()>& work)
     };
     add({ workOrNoteError, completion });
     completion->await();
-    if (error)
-        std::rethrow_exception(error);
+    if (error) std::rethrow_exception(error);
 }
 
 void MainQueue::add(Item item)
@@ -71,8 +66,7 @@ void MainQueue::add(Item item)
         m_hasItems.store(true, std::memory_order_relaxed);
         wasAwake = std::exchange(m_isAwake, true);
     }
-    if (!wasAwake)
-        m_wakeMainThread();
+    if (!wasAwake) m_wakeMainThread();
 }
 
 void MainQueue::run()
@@ -81,8 +75,7 @@ void MainQueue::run()
     const auto end = Clock::now() + frame;
     do {
         while (runNext()) {
-            if (Clock::now() < end)
-                continue;
+            if (Clock::now() < end) continue;
             m_wakeMainThread();
             return;
         }
@@ -94,15 +87,13 @@ bool MainQueue::runNext()
     Item item;
     {
         const std::lock_guard lock(m_mutex);
-        if (m_items.empty())
-            return false;
+        if (m_items.empty()) return false;
         item = std::move(m_items.front());
         m_items.pop_front();
         m_hasItems.store(!m_items.empty(), std::memory_order_relaxed);
     }
     item.work();
-    if (item.completion)
-        item.completion->signal();
+    if (item.completion) item.completion->signal();
     return true;
 }
 

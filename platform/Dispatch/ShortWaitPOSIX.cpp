@@ -35,8 +35,7 @@ bool ShortWait::spin(std::chrono::microseconds limit, const std::atomic<bool>& i
     constexpr auto now = std::chrono::steady_clock::now;
     const auto end = now() + limit;
     while (!isOver.load(std::memory_order_acquire)) {
-        if (now() >= end)
-            return false;
+        if (now() >= end) return false;
     }
     return true;
 }

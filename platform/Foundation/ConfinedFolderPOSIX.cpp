@@ -26,8 +26,7 @@ void removeTree(const Item& item)
         return check([&] { return unlinkat(item.folder, item.name.c_str(), flags); }, expected) == 0
             || errno == ENOENT;
     };
-    if (remove(0, { EISDIR, ENOENT }) || remove(AT_REMOVEDIR, { ENOENT, ENOTEMPTY }))
-        return;
+    if (remove(0, { EISDIR, ENOENT }) || remove(AT_REMOVEDIR, { ENOENT, ENOTEMPTY })) return;
     const FileDescriptor folder = openFolder(item, O_PATH, Way::beneath);
     for (const std::string& name : namesIn({ folder.number(), "." }))
         removeTree({ folder.number(), name });
@@ -37,8 +36,7 @@ void removeTree(const Item& item)
 }
 
 ConfinedFolder::ConfinedFolder(const std::string& folder)
-    : m_folder(folder)
-    , m_sourceFolders(std::make_unique<OpenFolders>())
+    : m_folder(folder), m_sourceFolders(std::make_unique<OpenFolders>())
 {
     assert(folder.ends_with('/'));
     open();
@@ -49,8 +47,7 @@ ConfinedFolder::~ConfinedFolder() = default;
 void ConfinedFolder::open()
 try {
     FileDescriptor folder = openFolder({ AT_FDCWD, m_folder }, O_RDONLY, Way::anywhere, { ENOENT });
-    if (!folder.isOpen())
-        return;
+    if (!folder.isOpen()) return;
     if (isLockedByAnother(folder))
         throw NSError(
             NSLocalizedString("Errors",
@@ -73,15 +70,13 @@ try {
 
 void ConfinedFolder::createDirectoryAtPath(const std::string& path)
 try {
-    if (!m_folders)
-        create();
+    if (!m_folders) create();
     const Item item = m_folders->find(path);
     struct stat status = {};
     if (check([&] { return mkdirat(item.folder, item.name.c_str(), 0777); }, { EEXIST }) < 0) {
         check(
             [&] { return fstatat(item.folder, item.name.c_str(), &status, AT_SYMLINK_NOFOLLOW); });
-        if (!S_ISDIR(status.st_mode))
-            throw errorOf(std::errc::file_exists);
+        if (!S_ISDIR(status.st_mode)) throw errorOf(std::errc::file_exists);
     }
 } catch (const std::system_error& reason) {
     throw failureToChange(reason, { path },
@@ -98,8 +93,7 @@ void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& 
                 "“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket."),
             { path, toPath });
     try {
-        if (S_ISDIR(source.status.st_mode))
-            throw errorOf(std::errc::is_a_directory);
+        if (S_ISDIR(source.status.st_mode)) throw errorOf(std::errc::is_a_directory);
         copyItem(source, m_folders->find(toPath));
     } catch (const std::system_error& reason) {
         throw failureToChange(reason, { path, toPath },
@@ -109,11 +103,9 @@ void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& 
 
 void ConfinedFolder::removeItemAtPath(const std::string& path)
 try {
-    if (!m_folders)
-        return;
+    if (!m_folders) return;
     const Item item = m_folders->find(path, { ELOOP, ENOENT, ENOTDIR });
-    if (item.folder >= 0)
-        removeTree(item);
+    if (item.folder >= 0) removeTree(item);
 } catch (const std::system_error& reason) {
     throw failureToChange(
         reason, { path }, NSLocalizedString("Errors", "“%1” couldn’t be removed because %2 (%3)."));
@@ -121,8 +113,7 @@ try {
 
 void ConfinedFolder::synchronize()
 try {
-    if (m_folders)
-        check([&] { return syncfs(m_folders->top()); });
+    if (m_folders) check([&] { return syncfs(m_folders->top()); });
 } catch (const std::system_error& reason) {
     throw failure(reason, { m_folder },
         NSLocalizedString(

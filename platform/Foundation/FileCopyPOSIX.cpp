@@ -32,8 +32,7 @@ private:
     FileDescriptor m_descriptor;
 };
 
-NewFile::NewFile(const Item& item)
-    : m_item(item)
+NewFile::NewFile(const Item& item) : m_item(item)
 {
     const auto create = [&](const char* name, int flags, std::initializer_list<int> expected) {
         constexpr mode_t ownerAlone = 0600;
@@ -42,8 +41,7 @@ NewFile::NewFile(const Item& item)
             expected));
     };
     m_descriptor = create(".", O_TMPFILE, { EISDIR, ENOSYS, EOPNOTSUPP });
-    if (m_descriptor.isOpen())
-        return;
+    if (m_descriptor.isOpen()) return;
     const std::string name = ".quillbarn-" + std::to_string(getpid());
     m_descriptor = create(name.c_str(), O_CREAT | O_EXCL, {});
     m_temporaryName = name;
@@ -51,8 +49,7 @@ NewFile::NewFile(const Item& item)
 
 NewFile::~NewFile()
 {
-    if (!m_temporaryName.empty())
-        unlinkat(m_item.folder, m_temporaryName.c_str(), 0);
+    if (!m_temporaryName.empty()) unlinkat(m_item.folder, m_temporaryName.c_str(), 0);
 }
 
 void NewFile::publish()
@@ -79,8 +76,7 @@ void NewFile::publish()
 // On a network some errors of writing come with the close only.
 void NewFile::close()
 {
-    if (::close(m_descriptor.release()) < 0 && errno != EINTR)
-        throw lastError();
+    if (::close(m_descriptor.release()) < 0 && errno != EINTR) throw lastError();
 }
 
 void NewFile::rename()
@@ -91,8 +87,7 @@ void NewFile::rename()
         return check(
             [&] { return renameat2(m_item.folder, from, m_item.folder, to, flags); }, expected);
     };
-    if (tryRename(RENAME_NOREPLACE, { EINVAL, ENOSYS, EOPNOTSUPP }) == 0)
-        return;
+    if (tryRename(RENAME_NOREPLACE, { EINVAL, ENOSYS, EOPNOTSUPP }) == 0) return;
     // A file system that can't refuse to replace: look first.
     if (faccessat(m_item.folder, to, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
         throw errorOf(std::errc::file_exists);

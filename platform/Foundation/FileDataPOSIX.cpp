@@ -14,8 +14,7 @@ void writeAll(const FileDescriptor& to, off_t offset, const char* data, off_t si
     while (size > 0) {
         const auto written
             = check([&] { return pwrite(to.number(), data, std::size_t(size), offset); });
-        if (written == 0)
-            throw errorOf(std::errc::no_space_on_device);
+        if (written == 0) throw errorOf(std::errc::no_space_on_device);
         data += written;
         offset += written;
         size -= written;
@@ -30,10 +29,8 @@ void readAndWrite(const FileDescriptor& from, const FileDescriptor& to, off_t of
         const auto wanted = std::size_t(std::min(bufferSize, end - offset));
         const auto size
             = check([&] { return pread(from.number(), buffer.data(), wanted, offset); });
-        if (size == 0 && end != unknown)
-            throw errorOf(std::errc::no_message_available);
-        if (size == 0)
-            return;
+        if (size == 0 && end != unknown) throw errorOf(std::errc::no_message_available);
+        if (size == 0) return;
         writeAll(to, offset, buffer.data(), size);
         offset += size;
     }

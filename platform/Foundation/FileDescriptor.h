@@ -13,19 +13,12 @@ public:
     FileDescriptor() = default;
 
     // Takes over what open() or its like returned; a negative number is none.
-    explicit FileDescriptor(int number)
-        : m_number(number)
-    {
-    }
+    explicit FileDescriptor(int number) : m_number(number) {}
     ~FileDescriptor()
     {
-        if (isOpen())
-            ::close(m_number);
+        if (isOpen()) ::close(m_number);
     }
-    FileDescriptor(FileDescriptor&& other) noexcept
-        : m_number(other.release())
-    {
-    }
+    FileDescriptor(FileDescriptor&& other) noexcept : m_number(other.release()) {}
     FileDescriptor& operator=(FileDescriptor&& other) noexcept
     {
         std::swap(m_number, other.m_number);
@@ -43,16 +36,10 @@ private:
 };
 
 // What the system call that has just failed says, to be thrown.
-inline std::system_error lastError()
-{
-    return { errno, std::generic_category() };
-}
+inline std::system_error lastError() { return { errno, std::generic_category() }; }
 
 // The same for a reason that no call has given.
-inline std::system_error errorOf(std::errc reason)
-{
-    return { make_error_code(reason) };
-}
+inline std::system_error errorOf(std::errc reason) { return { make_error_code(reason) }; }
 
 // Calls the system, again whenever a signal interrupts it, and answers what it answers. Not for
 // close(), which is over even then.
@@ -60,8 +47,7 @@ template <class Call> auto uninterrupted(const Call& call)
 {
     for (;;) {
         const auto answer = call();
-        if (answer >= 0 || errno != EINTR)
-            return answer;
+        if (answer >= 0 || errno != EINTR) return answer;
     }
 }
 
@@ -69,7 +55,6 @@ template <class Call> auto uninterrupted(const Call& call)
 template <class Call> auto check(const Call& call, std::initializer_list<int> expected = {})
 {
     const auto answer = uninterrupted(call);
-    if (answer < 0 && std::ranges::find(expected, errno) == expected.end())
-        throw lastError();
+    if (answer < 0 && std::ranges::find(expected, errno) == expected.end()) throw lastError();
     return answer;
 }

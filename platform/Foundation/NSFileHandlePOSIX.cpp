@@ -38,8 +38,7 @@ std::size_t NSFileHandle::writeData(std::string_view data)
     while (done < data.size()) {
         const auto written = uninterrupted(
             [&] { return write(m_file->number(), data.data() + done, data.size() - done); });
-        if (written <= 0)
-            break;
+        if (written <= 0) break;
         done += std::size_t(written);
     }
     return done;
@@ -50,7 +49,4 @@ void NSFileHandle::synchronizeFile()
     uninterrupted([&] { return fdatasync(m_file->number()); });
 }
 
-void NSFileHandle::closeFile()
-{
-    *m_file = FileDescriptor();
-}
+void NSFileHandle::closeFile() { *m_file = FileDescriptor(); }

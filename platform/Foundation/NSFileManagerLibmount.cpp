@@ -27,8 +27,7 @@ std::vector<std::string> visibleMountPoints(const char* table)
 {
     const Table volumes(mnt_new_table(), mnt_unref_table);
     const Iterator iterator(mnt_new_iter(MNT_ITER_FORWARD), mnt_free_iter);
-    if (mnt_table_parse_mtab(volumes.get(), table) != 0)
-        return {};
+    if (mnt_table_parse_mtab(volumes.get(), table) != 0) return {};
 
     std::vector<std::string> mountPoints;
     libmnt_fs* volume = nullptr;

@@ -26,15 +26,11 @@ bool leadsNowhere(const std::string& path)
 
 }
 
-NSFileManager::NSFileManager(std::unique_ptr<OpenFolders> folders)
-    : m_folders(std::move(folders))
+NSFileManager::NSFileManager(std::unique_ptr<OpenFolders> folders) : m_folders(std::move(folders))
 {
 }
 
-NSFileManager::NSFileManager()
-    : NSFileManager(std::make_unique<OpenFolders>())
-{
-}
+NSFileManager::NSFileManager() : NSFileManager(std::make_unique<OpenFolders>()) {}
 
 NSFileManager::~NSFileManager() = default;
 
@@ -104,8 +100,7 @@ bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
 
 bool NSFileManager::createFileAtPath(const std::string& path) const
 {
-    if (createNew(path))
-        return true;
+    if (createNew(path)) return true;
     const bool isThere = errno == EEXIST;
     return leadsNowhere(path) ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
 }

@@ -9,10 +9,7 @@ const NSProcessInfo& NSProcessInfo::processInfo()
     return info;
 }
 
-int NSProcessInfo::processIdentifier() const
-{
-    return getpid();
-}
+int NSProcessInfo::processIdentifier() const { return getpid(); }
 
 std::vector<std::string> NSProcessInfo::arguments() const
 {

@@ -29,8 +29,7 @@ bool isBoundary(const QString& text, qsizetype position)
 
 bool NSString::hasPrefix(std::string_view text, std::string_view prefix)
 {
-    if (!isText(text) || !isText(prefix))
-        return text.starts_with(prefix);
+    if (!isText(text) || !isText(prefix)) return text.starts_with(prefix);
     const QString whole = decomposed(text);
     const QString start = decomposed(prefix);
     return whole.startsWith(start) && isBoundary(whole, start.size());
@@ -38,8 +37,7 @@ bool NSString::hasPrefix(std::string_view text, std::string_view prefix)
 
 bool NSString::hasSuffix(std::string_view text, std::string_view suffix)
 {
-    if (!isText(text) || !isText(suffix))
-        return text.ends_with(suffix);
+    if (!isText(text) || !isText(suffix)) return text.ends_with(suffix);
     const QString whole = decomposed(text);
     const QString end = decomposed(suffix);
     return whole.endsWith(end) && isBoundary(whole, whole.size() - end.size());

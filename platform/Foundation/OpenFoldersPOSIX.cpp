@@ -13,16 +13,12 @@ constexpr std::size_t limit = 128; // of the folders kept open; a process may ha
 
 }
 
-OpenFolders::OpenFolders(FileDescriptor folder, const std::string& path, Way way)
-    : m_way(way)
+OpenFolders::OpenFolders(FileDescriptor folder, const std::string& path, Way way) : m_way(way)
 {
     m_folders.push_back({ path, std::move(folder) });
 }
 
-OpenFolders::OpenFolders()
-    : OpenFolders(FileDescriptor(AT_FDCWD), "", Way::anywhere)
-{
-}
+OpenFolders::OpenFolders() : OpenFolders(FileDescriptor(AT_FDCWD), "", Way::anywhere) {}
 
 Item OpenFolders::find(const std::string& path, std::initializer_list<int> expected)
 {
@@ -34,11 +30,9 @@ Item OpenFolders::find(const std::string& path, std::initializer_list<int> expec
         FileDescriptor folder
             = openFolder({ m_folders.back().descriptor.number(), path.substr(start, next - start) },
                 O_PATH, m_way, expected);
-        if (!folder.isOpen())
-            return { -1, "" };
+        if (!folder.isOpen()) return { -1, "" };
         m_folders.push_back({ path.substr(0, next), std::move(folder) });
-        if (m_folders.size() > limit)
-            m_folders.erase(m_folders.begin() + 1);
+        if (m_folders.size() > limit) m_folders.erase(m_folders.begin() + 1);
         start = next;
     }
     return { m_folders.back().descriptor.number(), end < path.size() ? path.substr(end) : "." };
@@ -71,8 +65,7 @@ std::vector<std::string> namesIn(const Item& folder)
                 names.push_back(entry.path().filename());
             return names;
         } catch (const std::filesystem::filesystem_error& reason) {
-            if (reason.code() != std::errc::interrupted)
-                throw;
+            if (reason.code() != std::errc::interrupted) throw;
         }
     }
 }
@@ -86,7 +79,6 @@ std::optional<std::string> readLink(const Item& link)
                 link.folder, link.name.c_str(), destination.data(), destination.size());
         },
         { EINVAL, ENOENT, ENOTDIR });
-    if (size < 0)
-        return std::nullopt;
+    if (size < 0) return std::nullopt;
     return std::string(destination.data(), std::size_t(size));
 }

@@ -21,8 +21,7 @@ DASessionRef scheduled; // with the main thread's loop
 void reply(const DADiskRef& disk, bool isGranted, DADiskUnmountCallback callback, void* context)
 {
     callback(disk, nullptr, nullptr);
-    if (disk->session != scheduled)
-        return;
+    if (disk->session != scheduled) return;
     const DADiskRef borrowed(DADiskRef(), disk.get());
     DispatchQueue::main().async([borrowed, isGranted, callback, context] {
         const DADissenter dissenter;
@@ -48,8 +47,7 @@ DADiskRef DADiskCreateFromVolumePath(CFAllocatorRef, const DASessionRef& session
 
 void DASessionScheduleWithRunLoop(const DASessionRef& session, CFRunLoopRef runLoop, CFRunLoopMode)
 {
-    if (runLoop == NSRunLoop::mainRunLoop().getCFRunLoop())
-        scheduled = session;
+    if (runLoop == NSRunLoop::mainRunLoop().getCFRunLoop()) scheduled = session;
 }
 
 void DASessionUnscheduleFromRunLoop(const DASessionRef&, CFRunLoopRef, CFRunLoopMode)

@@ -13,25 +13,13 @@ const NSProcessInfo& NSProcessInfo::processInfo()
     return info;
 }
 
-int NSProcessInfo::processIdentifier() const
-{
-    return 4711;
-}
+int NSProcessInfo::processIdentifier() const { return 4711; }
 
-std::vector<std::string> NSProcessInfo::arguments() const
-{
-    return foundation.arguments;
-}
+std::vector<std::string> NSProcessInfo::arguments() const { return foundation.arguments; }
 
-bool NSThread::isMainThread()
-{
-    return gettid() == getpid();
-}
+bool NSThread::isMainThread() { return gettid() == getpid(); }
 
-void NSThread::sleepForTimeInterval(double seconds)
-{
-    foundation.onPause(seconds);
-}
+void NSThread::sleepForTimeInterval(double seconds) { foundation.onPause(seconds); }
 
 std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKeys(
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const

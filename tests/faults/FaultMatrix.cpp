@@ -162,8 +162,7 @@ TEST_P(FaultMatrix, whicheverCallFailsTheRunEndsInOrder)
             for (int step = 1; result == hasHeld; ++step) {
                 fs::remove_all(apps + bundle);
                 fs::remove(logFile);
-                if (scenario.isInstalled)
-                    drawInstalled();
+                if (scenario.isInstalled) drawInstalled();
                 result = resultOf({ call, scenario.volume, error, step },
                     [&](Fault& fault) { runInOrder(scenario, fault); });
                 ++counts[result];

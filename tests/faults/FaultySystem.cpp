@@ -51,8 +51,7 @@ std::optional<int> errorOf(const seccomp_data& data, Fault& fault)
         || (isRare && fault.volume == Volume::simple))
         return EOPNOTSUPP;
     const std::string path = data.nr == fault.call.number ? pathOf(fault.call, data) : "";
-    if (!path.starts_with("/Applications") && !path.starts_with("/tmp"))
-        return std::nullopt;
+    if (!path.starts_with("/Applications") && !path.starts_with("/tmp")) return std::nullopt;
     if (++fault.calls < fault.step || (fault.calls > fault.step && fault.error != nothing))
         return std::nullopt;
     fault.path = path;

@@ -26,8 +26,7 @@ static Paths drawTrees(FuzzedDataProvider& draw)
     while (draw.remaining_bytes() > 0 && all.size() < 20) {
         const std::string path = oneOf(folders) + '/' + draw.ConsumeIntegral<char>();
         const int kind = draw.ConsumeIntegralInRange(0, 3);
-        if (fs::exists(fs::symlink_status(path)))
-            continue;
+        if (fs::exists(fs::symlink_status(path))) continue;
         if (kind == 0)
             writeFile(path);
         else if (kind == 1)
@@ -51,8 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         Paths expected;
         for (const auto& found : fs::recursive_directory_iterator(
                  bundle, fs::directory_options::follow_directory_symlink))
-            if (found.exists())
-                expected.push_back(found.path().lexically_relative(bundle));
+            if (found.exists()) expected.push_back(found.path().lexically_relative(bundle));
         assert(std::ranges::equal(listed, expected, {}, &BundleTree::File::path));
         RecordedReport report;
         BundleTask(report, apps, "bundle", DryRun::no).removeBundle(TopFolder::include, nullptr);

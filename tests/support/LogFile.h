@@ -18,7 +18,4 @@ inline Lines readLog()
 }
 
 // Empties the file, which a logger may hold open.
-inline void clearLog()
-{
-    writeFile("/tmp/quillbarninstaller.log");
-}
+inline void clearLog() { writeFile("/tmp/quillbarninstaller.log"); }

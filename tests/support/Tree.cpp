@@ -15,8 +15,7 @@ void writeFile(const std::string& path, std::string_view content)
 std::string readFile(const std::string& path)
 {
     std::ifstream file(path);
-    if (!file)
-        throw std::runtime_error("can't read " + path);
+    if (!file) throw std::runtime_error("can't read " + path);
     return { std::istreambuf_iterator(file), {} };
 }
 

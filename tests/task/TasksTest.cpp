@@ -76,8 +76,7 @@ TEST_F(Tasks, whateverIsThrownEndsTheRunWithWords)
              std::pair(std::make_exception_ptr(std::runtime_error("odd")), "of: odd"),
          }) {
         report->note = [&next = thrown] {
-            if (next)
-                std::rethrow_exception(std::exchange(next, nullptr));
+            if (next) std::rethrow_exception(std::exchange(next, nullptr));
             return "";
         };
         std::thread([this] {

@@ -28,8 +28,7 @@ protected:
     // Takes the view from an opened interface file. False where there is none.
     bool initWithCoder(const NSCoder& coder)
     {
-        if (coder.window)
-            m_view = coder.window->contentView();
+        if (coder.window) m_view = coder.window->contentView();
         return coder.window != nullptr;
     }
 

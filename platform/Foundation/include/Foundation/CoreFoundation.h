@@ -6,10 +6,7 @@
 class CFAllocator;
 using CFAllocatorRef = CFAllocator*;
 
-inline CFAllocatorRef CFAllocatorGetDefault()
-{
-    return nullptr;
-}
+inline CFAllocatorRef CFAllocatorGetDefault() { return nullptr; }
 
 // The loop of a thread. Unlike in CoreFoundation, there is the main thread's alone.
 class CFRunLoop {};

@@ -15,10 +15,7 @@ public:
     const std::string& path() const { return m_path; }
 
 private:
-    explicit NSURL(std::string_view path)
-        : m_path(path)
-    {
-    }
+    explicit NSURL(std::string_view path) : m_path(path) {}
 
     std::string m_path;
 };
