@@ -4,12 +4,12 @@
 
 void AppDelegate::applicationDidFinishLaunching()
 {
-    // The work starts from the controller, when its view is loaded.
+    // The controller starts the task in viewDidLoad.
 }
 
 void AppDelegate::applicationDidLoseDisplay()
 {
-    sharedLogger().log("the display was lost, and the run ends here", Logger::LogLevel::error);
+    sharedLogger().log("display connection lost", Logger::LogLevel::error);
 }
 
 void AppDelegate::applicationWillTerminate()

@@ -8,7 +8,7 @@ public:
 
     void applicationDidLoseDisplay() override;
 
-    // Writes the last line of the log and closes it.
+    // Writes the last log entry and closes the log.
     void applicationWillTerminate() override;
 
     bool applicationShouldTerminateAfterLastWindowClosed(NSApplication& sender) override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BundleTask.h"
+#include "CommandLine.h"
 
 #include <AppKit/IBOutlet.h>
 #include <AppKit/NSViewController.h>
@@ -17,16 +18,18 @@ class NSProgressIndicator;
 class NSScrollView;
 class NSTextField;
 
-// The controller of the installer's window: reads the command line, picks the task of the run, and
-// shows what the task reports. Main thread only, but for what is marked as a task.
+// The controller of the installer's only window: reads the command line, starts one task and shows
+// what the task reports. Main thread only, except the tasks. The spelling of "resultPain…" is
+// deliberate.
 class ViewController : public NSViewController {
 public:
-    // nullptr where the interface file holds no window.
+    // initWithCoder() returns nullptr if the interface file contains no window; initWithNibName()
+    // loads no view.
     static std::shared_ptr<ViewController> initWithCoder(const NSCoder& coder);
     static std::shared_ptr<ViewController> initWithNibName(
         const std::string& nibName, const NSBundle* bundle);
 
-    // Prepares the window and starts the task, or says that the options are invalid.
+    // Prepares the window and starts the task, or shows "invalid options".
     void viewDidLoad() override;
     void resultButtonClicked(const NSView* sender);
 
@@ -40,37 +43,35 @@ public:
     const std::string bundleDir = "quillbarn.app";
     const std::string applicationDir = "/Applications/";
     CGFloat m_resultPainViewHeight = 0; // of the open pane, in points
-    std::int64_t m_ejectLoop = 0; // attempts to unmount, made by one thread after the other
-    bool m_test = false; // a dry run; nothing but a test sets it
+    std::int64_t m_ejectLoop = 0; // attempts to unmount; never written by two threads at a time
+    // Only tests set it: the run unmounts a fixed path, other tasks are dry runs, and the pane and
+    // the window stay open.
+    bool m_test = false;
 
-    enum class Mode { install, uninstall, unmount };
+    using Mode = ::Mode;
+    using CommandLineOption = ::CommandLineOption;
 
-    struct CommandLineOption {
-        Mode mode;
-        std::string path; // empty for uninstall
-    };
-
-    // What the command line asks for, which it logs; or none.
+    // Returns the option of this run and logs it, or returns nothing.
     std::optional<CommandLineOption> parseCommandLine() const;
 
-    // The window. Paths and messages are bytes.
+    // Operations on the window. Paths and messages are bytes; see TaskReport.
     void showMessage(const std::string& message);
     void setProgress(std::int64_t index, std::int64_t count);
     void setTitle(const std::string& title);
     void showResult();
-    void finish();
+    void finish(); // closes the window; in a test, enables its button
     void closeWindow();
 
-    // Opens the pane, whose button says how the run failed to whoever hears it read.
-    void showFailure(const std::string& description);
+    // Opens the pane. A screen reader reads the description with the button.
+    void showFailure(const std::string& title, const std::string& description);
 
-    // The tasks, each on a background thread. They return when they have reported their end; but
-    // unmounting continues on the main thread once its first attempt has started.
+    // The tasks, on background threads. They return when they have reported the end of the run, but
+    // unmounting continues on the main thread after its first attempt.
     void installBundle(const std::string& sourcePath);
     void uninstallBundle();
     void unmountDiskImage(const std::string& path);
 
-    // What the tasks are made of: see BundleTree and BundleTask.
+    // Parts of the tasks; see BundleTree and BundleTask.
     using File = BundleTree::File;
     static std::vector<File> getFiles(const std::string& folder, const std::string& prefix);
     void removeBundle(TopFolder topFolder, const BundleTask::Progress& progress);
@@ -80,7 +81,7 @@ private:
 
     void prepareWindow();
     void startTask(const CommandLineOption& option);
-    void giveKeyboardToButton();
-    DryRun dryRun() const { return m_test ? DryRun::yes : DryRun::no; }
+    void enableKeyboard();
+    BundleTask bundleTask(TaskReport& report) const;
     std::shared_ptr<ViewController> self();
 };

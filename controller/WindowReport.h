@@ -1,35 +1,26 @@
 #pragma once
 
+#include "Modes.h"
 #include "TaskReport.h"
 #include "ViewController.h"
 
 #include <memory>
 
-// What a task tells reaches the window here, and nowhere else: every hop of a task to the main
-// thread is one of these. The window's title tells what the run does and how it ended. Keeps the
-// controller until the task is over.
+// Dispatches what a task reports to the window on the main thread, and shows the state of the run
+// in the title. Keeps the controller alive until the task has ended.
 class WindowReport : public TaskReport {
 public:
-    WindowReport(std::shared_ptr<ViewController> controller, ViewController::Mode mode);
+    WindowReport(std::shared_ptr<ViewController> controller, Mode mode);
 
     // Before the task starts, on the main thread.
-    void begin() { m_controller->setTitle(m_titles.running); }
+    void begin() { m_controller->setTitle(m_mode.runningTitle); }
 
     void showMessage(const std::string& message) override;
     void setProgress(std::int64_t index, std::int64_t count) override;
-    void showWaiting() override;
-    void closeWindow() override;
-    void finish() override;
-    void showFailure(const NSError& error) override;
+    void showRetrying() override { m_controller->setTitle(m_mode.retryingTitle); }
+    void end(const std::optional<NSError>& failure) override;
 
 private:
-    struct Titles {
-        std::string running;
-        std::string waiting;
-        std::string failed;
-    };
-    static Titles titlesOf(ViewController::Mode mode);
-
     const std::shared_ptr<ViewController> m_controller;
-    const Titles m_titles;
+    const ModeInfo& m_mode;
 };

@@ -1,4 +1,4 @@
-# Attaches a sample disk image, and has it unmounted and ejected by the disk service.
+# Mounts a sample disk image and ejects it with the installer.
 
 bus_answers() {
     dbus-send --system --print-reply --dest=org.freedesktop.DBus / \
@@ -11,7 +11,7 @@ disk_service_answers() {
     udisksctl status >/dev/null 2>&1
 }
 
-# Where systemd is not running, the bus and udev are started by hand; the bus starts the service.
+# Without systemd, starts the bus and udev; the bus starts the disk service.
 ensure_disk_service() {
     ! disk_service_answers || return 0
     "${as_root[@]}" mkdir -p /run/dbus
@@ -42,17 +42,17 @@ demo_detach() {
     "${as_root[@]}" mount -t squashfs "$device" "$volume"
     await service_knows_volume "$device"
 
-    echo "Detaching, which for two seconds can't be done:"
+    echo "Ejecting the image, which is busy for two seconds:"
     losetup --list "$device"
     { sleep 2; } <"$volume/quillbarn.app/Contents/MacOS/quillbarn" &
-    # As root, who has mounted it: anybody else the disk service asks for a password first.
+    # As root, who mounted the image: the disk service asks other users for a password.
     show detach 0.7 "${as_root[@]}" "$installer" -install2 "$volume/quillbarn.app"
     show_log
     if mountpoint -q "$volume" || is_attached "$device" "$image"; then
-        echo "It was not detached." >&2
+        echo "The image was not ejected." >&2
         return 1
     fi
-    echo "$volume is unmounted, and $device free."
+    echo "$volume is unmounted and $device is free."
     echo
     echo "Try next:"
     echo "  ./dev demo clean"

@@ -1,11 +1,11 @@
-# Installs a sample bundle for real.
+# Installs a sample application in /Applications.
 
 bundle=/Applications/quillbarn.app
 log=/tmp/quillbarninstaller.log
-made=build/demo/made # what the demos have brought to the machine, a path a line
+made=build/demo/made # paths that the demos created on the machine, one per line
 
-# draw_bundle FOLDER: a few hundred entries of all kinds that a bundle can hold
-draw_bundle() {
+# write_bundle FOLDER: a few hundred entries of all kinds
+write_bundle() {
     local contents="$1/quillbarn.app/Contents" number
     rm -rf "$1/quillbarn.app"
     mkdir -p "$contents/MacOS" "$contents/Resources/Empty folder" "$contents/Frameworks/Core/A"
@@ -25,12 +25,12 @@ draw_bundle() {
 }
 
 prepare_demo() {
-    need "${for_building[@]}"
+    need_to_build
     build release
     mkdir -p build/demo
-    draw_bundle build/demo
+    write_bundle build/demo
     note_new "$log"
-    [ -e "$log" ] || : >"$log" # the person's own, also where root is the first to write to it
+    [ -e "$log" ] || : >"$log" # owned by the user, even if root writes to it first
 }
 
 note_new() { # path...
@@ -42,7 +42,7 @@ note_new() { # path...
 
 prepare_applications() {
     if [ -e "$bundle" ] && ! grep -qxF "$bundle" "$made" 2>/dev/null; then
-        echo "There is a $bundle that is not the demo's. It stays as it is." >&2
+        echo "$bundle exists and was not created by the demo. It is not changed." >&2
         return 1
     fi
     note_new /Applications "$bundle"
@@ -55,9 +55,9 @@ demo_install() {
     prepare_applications
     ensure_display
 
-    # A full bar stands for a second; a pane takes half of one to open.
-    if [ "$screen_in_memory" = yes ]; then
-        echo "Installing from a folder that is not there, to see how that is told"
+    # The full bar is shown for 1 second, and the pane opens within 0.5 seconds.
+    if [ "$screen_is_virtual" = yes ]; then
+        echo "Installing from a missing folder, to show a failure"
         show failure 0.7 "$installer" -install /nowhere/
     fi
     echo "Installing $(find build/demo/quillbarn.app | wc -l) entries into $bundle"
@@ -70,34 +70,34 @@ demo_install() {
     suggest
 }
 
-# What works on the display of this run.
+# Prints commands that work on the current display.
 suggest() {
-    if [ "$screen_in_memory" = yes ]; then
+    if [ "$screen_is_virtual" = yes ]; then
         echo "  xvfb-run $installer -uninstall"
     else
         echo "  $installer -uninstall"
-        echo "  $installer -install /nowhere/    (fails, says why and waits)"
+        echo "  $installer -install /nowhere/    (fails, states why and waits)"
     fi
     echo "  ./dev demo detach"
     echo "  ./dev demo clean"
 }
 
-# Only what the demos have made; folders only when they are empty.
+# Removes the installed bundle, the log and the folders if a demo created them and they are empty.
 demo_clean() {
     local path
-    [ -e "$made" ] || { echo "No demo has left anything." && return; }
-    tac "$made" | while read -r path; do
+    [ -e "$made" ] || { echo "The demos have left nothing." && return; }
+    sort --unique --reverse "$made" | while read -r path; do
         case $path in
         "$bundle" | "$log") "${as_root[@]}" rm -rf "$path" ;;
-        *) "${as_root[@]}" rmdir "$path" || continue ;;
+        *) "${as_root[@]}" rmdir "$path" || { echo "$path" >>"$made.left" && continue; } ;;
         esac
         echo "Removed: $path"
     done
-    rm -rf build/demo
+    if [ -e "$made.left" ]; then mv "$made.left" "$made"; else rm -rf build/demo; fi
 }
 
-# The pictures of the README: a run that stands still half-way, and one that has failed after more
-# lines than the pane holds.
+# Takes the pictures of the README: a run that is stopped halfway, and a failure with more lines than the
+# pane can show.
 take_shots() {
     prepare_demo
     prepare_applications

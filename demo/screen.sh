@@ -1,13 +1,13 @@
-# A display for the demos: the person's own, or one in memory, of which pictures are saved.
+# The display for the demos: that of the user, or a virtual one, of which pictures are saved.
 
-screen_in_memory=no
+screen_is_virtual=no
 installer=build/release/quillbarninstaller
 any_title='quillbarn|disk image'
 
-# start_screen WIDTHxHEIGHT: with a window manager
+# start_screen WIDTHxHEIGHT: starts a virtual X server with a window manager
 start_screen() {
     need "${for_showing[@]}"
-    screen_in_memory=yes
+    screen_is_virtual=yes
     mkdir -p build/demo
     local pipe=build/demo/display number
     rm -f "$pipe"
@@ -19,10 +19,10 @@ start_screen() {
     export DISPLAY=":$number" XDG_RUNTIME_DIR="$PWD/build/demo/runtime"
     export LC_ALL=C.UTF-8 LANGUAGE=en # for the pictures
     install -d -m 0700 "$XDG_RUNTIME_DIR"
-    # It ends by itself now and then, and at times finds no display at first.
+    # openbox may exit on its own, or start before the X server accepts connections.
     until openbox; do sleep 0.1; done >/dev/null 2>&1 &
     at_end "kill $!"
-    await window_manager_is_there # or a window that comes at that moment may be forgotten
+    await window_manager_is_there # it may ignore windows that are mapped earlier
 }
 
 window_manager_is_there() {
@@ -37,20 +37,20 @@ window_is_shown() { # a part of its title
     xdotool search --onlyvisible --name "$1" >/dev/null 2>&1
 }
 
-# picture FILE: of the installer's window with its frame
+# picture FILE: saves the window with its frame, which is what the virtual screen shows
 picture() {
     import -window root png:- | convert - -trim +repage -strip +dither -colors 128 PNG8:"$1"
     echo "Picture: $1"
 }
 
-# show NAME SECONDS COMMAND...: runs the installer; where the display is in memory, saves a picture
-# after so many seconds and presses the button
+# show NAME SECONDS COMMAND...: runs the installer; on a virtual display, saves a picture after the
+# given time and presses the button
 show() {
     local name="$1" seconds="$2" pid
     shift 2
     "$@" &
     pid=$!
-    if [ "$screen_in_memory" = yes ]; then
+    if [ "$screen_is_virtual" = yes ]; then
         await window_is_shown "$any_title"
         sleep "$seconds"
         picture "build/demo/$name.png"
@@ -61,7 +61,7 @@ show() {
 
 press_return_until_over() { # process
     while [ -e "/proc/$1" ]; do
-        # Two commands, or the key would stay down when the window has gone.
+        # Two commands: otherwise the key stays pressed if the window closes in between.
         ! xdotool search --onlyvisible --name "$any_title" windowactivate || xdotool key Return
         sleep 0.1
     done 2>/dev/null
@@ -70,5 +70,5 @@ press_return_until_over() { # process
 show_log() {
     printf '\nThe end of the log, %s:\n' "$log"
     tail -n 5 "$log"
-    [ -w "$log" ] || echo "It belongs to someone else, and has got no lines of this run."
+    [ -w "$log" ] || echo "The log is not writable: this run has no entries."
 }

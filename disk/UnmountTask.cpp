@@ -58,9 +58,9 @@ void UnmountTask::tryEject() const
 
 void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
 {
-    DispatchQueue::main().async([task = *this, result] {
+    DispatchQueue::main().async([task = *this, result] { // when the ejector has been released
         if (result == DiskImageEjector::Result::succeeded) return task.checkUnmountResult();
-        task.m_report->showWaiting();
+        task.m_report->showRetrying();
         NSThread::sleepForTimeInterval(pauseAfterFailure);
         task.tryEject();
     });
@@ -69,5 +69,5 @@ void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
 void UnmountTask::checkUnmountResult() const
 {
     m_report->showMessage(pathExists() ? "failed" : "unmount succeeded");
-    m_report->finish();
+    m_report->end(std::nullopt);
 }

@@ -7,15 +7,15 @@
 #include <memory>
 #include <string>
 
-// Detaches the disk image that contains a path, with at most seven attempts. It has succeeded if
-// the path no longer exists. Each step that runs later has a copy of the task.
+// Detaches the disk image that contains a path, with at most seven attempts. Success means that the
+// path no longer exists. Each step that runs later has a copy of the task.
 class UnmountTask {
 public:
-    // `ejectLoop` counts the attempts. Threads write it one after the other. It must outlive the
-    // report.
+    // `ejectLoop` counts the attempts. It is never written by two threads at once, and must outlive
+    // all copies of the task.
     UnmountTask(std::shared_ptr<TaskReport> report, std::string path, std::int64_t& ejectLoop);
 
-    // Returns after the first attempt has started or the end was reported. Everything else runs on
+    // Returns when the first attempt has started or nothing is left to do. Everything else runs on
     // the main thread, including the pauses between attempts.
     void run() const;
 

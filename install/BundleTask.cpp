@@ -2,21 +2,25 @@
 
 #include "Logger.h"
 
-#include <Foundation/NSError.h>
 #include <Foundation/NSThread.h>
 
-#include <algorithm>
 #include <cassert>
-#include <filesystem>
 
 namespace {
 
-constexpr double pauseAtEnd = 1.0; // seconds in which the bar stands full
+constexpr double pauseAtEnd = 1.0; // seconds; the bar stays full
 constexpr double dryRunPerFile = 0.1; // seconds
 
-bool leadsOutOfItsFolder(const std::filesystem::path& link)
-{
-    return link.is_absolute() || link.lexically_normal().string().starts_with("..");
+std::optional<NSError> failureOf(const std::function<void()>& work)
+try {
+    work();
+    return std::nullopt;
+} catch (const NSError& error) {
+    return error;
+} catch (const std::bad_alloc&) {
+    return NSError(NSLocalizedString("Errors", "out of memory"));
+} catch (const std::exception& error) {
+    return NSError(NSLocalizedString("Errors", "internal error"), { error.what() });
 }
 
 }
@@ -27,159 +31,101 @@ BundleTask::BundleTask(
     , m_applicationDir(std::move(applicationDir))
     , m_bundleDir(std::move(bundleDir))
     , m_isDryRun(dryRun == DryRun::yes)
+    , m_preflight(m_applicationDir, m_bundleDir)
 {
 }
 
 void BundleTask::install(const std::string& sourcePath)
 {
     sharedLogger().log("install bundle", Logger::LogLevel::normal);
-    runToEnd(
-        [&] {
-            const Files files = listBundle(sourcePath,
-                [this](const NSFileManager&, const std::string& folder, FileIdentity identity) {
-                    m_sourceFolders.emplace(identity, folder);
-                });
-            changes();
-            for (const BundleTree::File& file : files)
-                requireFreeName(sourcePath, file);
-            removeBundle(TopFolder::exclude, nullptr);
-            for (std::size_t i = 0; i < files.size(); ++i) {
-                createEntry(sourcePath, files[i]);
-                m_report.setProgress(std::int64_t(i), std::int64_t(files.size()));
-            }
-            synchronize();
-        },
-        &TaskReport::closeWindow);
+    const auto work = [&] {
+        const Files& files = m_preflight.listSource(sourcePath);
+        removeBundle(TopFolder::exclude, nullptr);
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            createEntry(sourcePath, files[i]);
+            m_report.setProgress(std::int64_t(i), std::int64_t(files.size()));
+        }
+        synchronize();
+    };
+    run(work, NSLocalizedString("Errors", "incomplete, install again"));
 }
 
 void BundleTask::uninstall()
 {
     sharedLogger().log("uninstall bundle", Logger::LogLevel::normal);
-    runToEnd(
-        [&] {
-            removeBundle(TopFolder::include, [this](std::int64_t index, std::int64_t count) {
-                m_report.setProgress(index, count);
-            });
-            synchronize(); // also what an earlier run has removed, and was ended before it could
-        },
-        &TaskReport::finish);
+    const auto work = [&] {
+        const NSFileManager& files = NSFileManager::defaultManager();
+        // If there is nothing to remove, no lock is needed. An unreadable folder cannot be locked.
+        if (!files.fileExistsAtPath(m_applicationDir + m_bundleDir)
+            && !files.isReadableFileAtPath(m_applicationDir))
+            return;
+        removeBundle(TopFolder::include,
+            [this](std::int64_t index, std::int64_t count) { m_report.setProgress(index, count); });
+        synchronize(); // also the removals of an earlier, killed run
+    };
+    run(work, NSLocalizedString("Errors", "incomplete, uninstall again"));
 }
 
-// Whatever is thrown, the person hears of it.
-void BundleTask::runToEnd(const std::function<void()>& work, void (TaskReport::*lastStep)())
+void BundleTask::run(const std::function<void()>& work, const std::string& incompleteCopy)
 {
-    assert(!NSThread::isMainThread()); // which is to show the steps meanwhile
-    try {
-        work();
-    } catch (const NSError& error) {
-        return m_report.fail(error);
-    } catch (const std::bad_alloc&) {
-        return m_report.fail(NSError(
-            NSLocalizedString("Errors", "The run couldn’t go on because the memory is used up.")));
-    } catch (const std::exception& error) {
-        return m_report.fail(
-            NSError(NSLocalizedString("Errors", "The run couldn’t go on because of: %1"),
-                { error.what() }));
+    assert(!NSThread::isMainThread()); // which shows the progress
+    std::optional<NSError> failure = failureOf(work);
+    const std::string folder = m_applicationDir.substr(0, m_applicationDir.size() - 1);
+    if (!failure) {
+        NSThread::sleepForTimeInterval(pauseAtEnd);
+        m_report.showMessage("completed");
+    } else if (m_copy != Copy::unchanged) {
+        const std::string state = m_copy == Copy::incomplete
+            ? incompleteCopy
+            : NSLocalizedString("Errors", "maybe incomplete");
+        failure = failure->followedBy(NSString::stringWithFormat(state, { folder }));
     }
-    NSThread::sleepForTimeInterval(pauseAtEnd);
-    m_report.showMessage("completed");
-    (m_report.*lastStep)();
+    m_report.end(failure);
 }
 
 void BundleTask::removeBundle(TopFolder topFolder, const Progress& progress)
 {
-    changes();
-    Files files = listInstalled();
+    lockApplications();
+    Files files = m_preflight.listInstalled();
+    if (!m_isDryRun) m_preflight.requireReplaceable(*m_applications);
     if (topFolder == TopFolder::exclude && !files.empty()) files.erase(files.begin());
     for (std::size_t k = 0; k < files.size(); ++k) {
         const BundleTree::File& file = files[files.size() - 1 - k];
         const std::string path = m_applicationDir + file.path;
         m_report.showMessage("remove " + path + (file.isDirectory ? "/" : ""));
-        if (!m_isDryRun) changes().removeItemAtPath(path);
+        if (!m_isDryRun) {
+            m_applications->removeItemAtPath(path);
+            m_copy = Copy::incomplete;
+        }
         if (progress) progress(std::int64_t(k), std::int64_t(files.size()));
     }
 }
 
-// With the bundle's own folder.
-BundleTask::Files BundleTask::listBundle(
-    const std::string& parent, const BundleTree::Visitor& visit) const
-{
-    Files files = BundleTree::getFiles(parent + m_bundleDir + "/", m_bundleDir + "/", visit);
-    files.insert(files.begin(), { true, m_bundleDir });
-    return files;
-}
-
-// None where there is no bundle.
-BundleTask::Files BundleTask::listInstalled() const
-{
-    const std::string bundle = m_applicationDir + m_bundleDir;
-    const NSFileManager& fileManager = NSFileManager::defaultManager();
-    if (const auto destination = fileManager.destinationOfSymbolicLinkAtPath(bundle))
-        throw NSError(
-            NSLocalizedString("Errors", "“%1” couldn’t be changed because it is a link, to “%2”."),
-            { bundle, *destination });
-    if (!fileManager.fileExistsAtPath(bundle)) return {};
-    return listBundle(
-        m_applicationDir, [this](const auto&... visited) { requireOwnFolder(visited...); });
-}
-
-// A folder of the bundle that lies there, and nowhere else.
-void BundleTask::requireOwnFolder(
-    const NSFileManager& fileManager, const std::string& folder, FileIdentity identity) const
-{
-    const auto same = m_sourceFolders.find(identity);
-    if (same != m_sourceFolders.end())
-        throw NSError(
-            NSLocalizedString("Errors",
-                "“%1” couldn’t be installed because it is “%2”, which would be emptied first."),
-            { same->second, folder });
-
-    if (!fileManager.destinationOfSymbolicLinkAtPath(folder)) return;
-    const std::string bundle = m_applicationDir + m_bundleDir;
-    const std::string destination = fileManager.stringByResolvingSymlinksInPath(folder);
-    if (!destination.starts_with(fileManager.stringByResolvingSymlinksInPath(bundle) + "/"))
-        throw NSError(
-            NSLocalizedString("Errors",
-                "“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”."),
-            { bundle, folder, destination });
-}
-
-// A link that leads nowhere is not listed, so that it stays in the bundle's own folder when that is
-// emptied. One that a killed install has left there before what it leads to is no hindrance.
-void BundleTask::requireFreeName(const std::string& sourcePath, const BundleTree::File& file) const
-{
-    const std::string path = m_applicationDir + file.path;
-    if (std::ranges::count(file.path, '/') != 1) return;
-    const NSFileManager& fileManager = NSFileManager::defaultManager();
-    const auto link = fileManager.destinationOfSymbolicLinkAtPath(path);
-    if (!link || fileManager.fileExistsAtPath(path)) return;
-    if (leadsOutOfItsFolder(*link)
-        || link != fileManager.destinationOfSymbolicLinkAtPath(sourcePath + file.path))
-        throw NSError(
-            NSLocalizedString("Errors",
-                "“%1” couldn’t be installed because a link that leads nowhere has its place. "
-                "Uninstall first, which removes the link, too."),
-            { path });
-}
-
 void BundleTask::createEntry(const std::string& sourcePath, const BundleTree::File& file)
 {
+    using Intermediates = ConfinedFolder::WithIntermediateDirectories;
     const std::string destination = m_applicationDir + file.path;
     m_report.showMessage((file.isDirectory ? "mkdir " : " copy ") + destination);
     if (m_isDryRun) {
         if (!file.isDirectory) NSThread::sleepForTimeInterval(dryRunPerFile);
-    } else if (file.isDirectory)
-        changes().createDirectoryAtPath(destination);
-    else
-        changes().copyItemAtPath(sourcePath + file.path, destination);
+        return;
+    }
+    if (!file.isDirectory)
+        m_applications->copyItemAtPath(sourcePath + file.path, destination);
+    else // only the top folder may exist
+        m_applications->createDirectoryAtPath(
+            destination, file.path == m_bundleDir ? Intermediates::yes : Intermediates::no);
+    m_copy = Copy::incomplete;
 }
 
-ConfinedFolder& BundleTask::changes()
+void BundleTask::lockApplications()
 {
-    return m_changes ? *m_changes : m_changes.emplace(m_applicationDir);
+    if (!m_applications) m_applications.emplace(m_applicationDir);
 }
 
 void BundleTask::synchronize()
 {
-    if (!m_isDryRun) changes().synchronize();
+    if (m_isDryRun) return;
+    m_copy = Copy::unflushed;
+    m_applications->synchronize();
 }

@@ -2,64 +2,66 @@
 
 #include <Foundation/NSError.h>
 
+#include <algorithm>
 #include <map>
 
 namespace {
 
-class TreeWalk {
-public:
-    explicit TreeWalk(const BundleTree::Visitor& visit) : m_visit(visit) {}
+// If symlinks lead to folders with more symlinks, the number of entries grows exponentially.
+constexpr int mostSymlinksToAFolder = 1000;
+
+struct TreeWalk {
+    const BundleTree::Visitor& visitor;
+    const NSFileManager fileManager = {};
+    std::vector<BundleTree::File> files = {};
+    std::vector<std::string> ancestors = {}; // real paths, from the top to the folder being listed
+    std::map<std::string, int> symlinks = {}; // by the real path of the folder they lead to
 
     // `folder` has no "/" at its end, `prefix` has.
-    void walk(const std::string& folder, const std::string& prefix);
-
-    std::vector<BundleTree::File> files;
-
-private:
-    FileIdentity enter(const std::string& folder);
-
-    const NSFileManager m_fileManager;
-    const BundleTree::Visitor& m_visit;
-    std::map<FileIdentity, std::string> m_ancestors; // from the first folder to the one being read
+    void walk(const std::string& folder, const std::string& prefix, const std::string& realPath);
+    std::string folderBehind(const std::string& symlink);
 };
 
-void TreeWalk::walk(const std::string& folder, const std::string& prefix)
+void TreeWalk::walk(
+    const std::string& folder, const std::string& prefix, const std::string& realPath)
 {
+    ancestors.push_back(realPath);
     const std::string start = folder + "/";
-    const FileIdentity identity = enter(folder); // whose own folder is still open
-    for (const std::string& name : m_fileManager.contentsOfDirectoryAtPath(start)) {
+    for (const std::string& name : fileManager.contentsOfDirectoryAtPath(start)) {
         const std::string path = start + name;
-        bool isDirectory = false;
-        if (!m_fileManager.fileExistsAtPath(path, isDirectory)) continue;
-        files.push_back({ isDirectory, prefix + name });
-        if (isDirectory) walk(path, prefix + name + "/");
+        FileStatus status;
+        if (!fileManager.fileExistsAtPath(path, &status)) continue;
+        if (visitor) visitor({ fileManager, path, status });
+        files.push_back({ status.isDirectory, prefix + name });
+        if (status.isDirectory)
+            walk(path, prefix + name + "/",
+                status.isSymlink ? folderBehind(path) : realPath + path.substr(folder.size()));
     }
-    m_ancestors.erase(identity);
+    ancestors.pop_back();
 }
 
-// A link may lead back to a folder that holds it. The walk would go round there until the paths are
-// too long.
-FileIdentity TreeWalk::enter(const std::string& folder)
+// Detects loops by paths: some file systems give all folders the same device and inode.
+std::string TreeWalk::folderBehind(const std::string& symlink)
 {
-    bool isDirectory = false;
-    const auto identity
-        = m_fileManager.fileExistsAtPath(folder, isDirectory).value_or(FileIdentity());
-    const auto [known, isNew] = m_ancestors.emplace(identity, folder);
-    if (!isNew)
-        throw NSError(NSLocalizedString("Errors",
-                          "The link “%1” couldn’t be followed because it leads "
-                          "back to “%2/”, a folder that holds it."),
-            { folder, known->second });
-    if (m_visit) m_visit(m_fileManager, folder, identity);
-    return identity;
+    std::string folder = fileManager.stringByResolvingSymlinksInPath(symlink);
+    if (std::ranges::find(ancestors, folder) != ancestors.end())
+        throw NSError(NSLocalizedString("Errors", "symlink loop"), { symlink, folder });
+    if (++symlinks[folder] > mostSymlinksToAFolder)
+        throw NSError(NSLocalizedString("Errors", "too many symlinks"), { symlink, folder });
+    return folder;
 }
 
 }
 
 std::vector<BundleTree::File> BundleTree::getFiles(
-    const std::string& folder, const std::string& prefix, const Visitor& visit)
+    const std::string& folder, const std::string& prefix, const Visitor& visitor)
 {
-    TreeWalk tree(visit);
-    tree.walk(folder.substr(0, folder.size() - 1), prefix);
+    TreeWalk tree { visitor };
+    tree.fileManager.contentsOfDirectoryAtPath(folder); // reports its error before any other
+    const std::string top = folder.substr(0, folder.size() - 1);
+    FileStatus status;
+    if (visitor && tree.fileManager.fileExistsAtPath(top, &status))
+        visitor({ tree.fileManager, top, status });
+    tree.walk(top, prefix, tree.fileManager.stringByResolvingSymlinksInPath(top));
     return std::move(tree.files);
 }

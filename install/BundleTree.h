@@ -6,23 +6,28 @@
 #include <string>
 #include <vector>
 
-// The entries of a bundle as one list.
+// Lists the tree of a bundle.
 class BundleTree {
 public:
     struct File {
-        bool isDirectory; // or a link to one
-        std::string path; // from the folder that holds the bundle, without a "/" at either end
+        bool isDirectory; // or a symlink to a directory
+        std::string path; // relative to the folder that holds the bundle; no "/" at either end
     };
 
-    // Told of each folder, first of the one from which the listing starts, by its path without a
-    // "/" at the end. `fileManager` keeps the folders on the way to it open. Ends the listing by
-    // what it throws.
-    using Visitor = std::function<void(
-        const NSFileManager& fileManager, const std::string& folder, FileIdentity identity)>;
+    // An existing item, whose path has no "/" at its end, and a file manager that caches the open
+    // folders on the path.
+    struct Visit {
+        const NSFileManager& fileManager;
+        const std::string& path;
+        const FileStatus& status;
+    };
+    using Visitor = std::function<void(const Visit& visit)>;
 
-    // All entries below a folder, each folder before what it holds, under `prefix`. Both arguments
-    // end in "/". Links to folders are followed, links that lead nowhere left out. Throws an
-    // NSError. Safe on any thread.
+    // Returns all entries beneath `folder`, each folder before its contents, with `prefix` in front
+    // of their paths. Both arguments end in "/". Follows symlinks to folders and omits dangling
+    // symlinks. Calls `visitor`, if any, with the folder itself, then with each entry before it is
+    // listed; an exception ends the listing. Throws an NSError, also for a symlink loop and if it
+    // reaches the same folder through symlinks more than 1,000 times. Safe on any thread.
     static std::vector<File> getFiles(
-        const std::string& folder, const std::string& prefix, const Visitor& visit = nullptr);
+        const std::string& folder, const std::string& prefix, const Visitor& visitor = nullptr);
 };

@@ -5,6 +5,7 @@
 
 namespace {
 
+// In the order of LogLevel.
 char letterOf(Logger::LogLevel level) { return "inwedt"[std::size_t(level)]; }
 
 void replaceAll(std::string& text, const std::string& from, const std::string& to)
@@ -12,15 +13,6 @@ void replaceAll(std::string& text, const std::string& from, const std::string& t
     for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
         text.replace(at, from.size(), to);
 }
-
-// A message on one line. A carriage return by itself does no harm and stays.
-std::string escaped(std::string message)
-{
-    replaceAll(message, "\r\n", "\\r\\n");
-    replaceAll(message, "\n", "\\n");
-    return message;
-}
-
 }
 
 Logger::Logger(const std::string& path)
@@ -42,6 +34,14 @@ void Logger::log(const std::string& message, LogLevel level)
     if (const std::size_t written = m_file->writeData(line))
         m_isInEntry = line[written - 1] != '\n';
     m_file->synchronizeFile();
+}
+
+// A carriage return alone does not end a line and stays.
+std::string Logger::escaped(std::string message)
+{
+    replaceAll(message, "\r\n", "\\r\\n");
+    replaceAll(message, "\n", "\\n");
+    return message;
 }
 
 void Logger::close()

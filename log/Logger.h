@@ -7,27 +7,29 @@
 #include <mutex>
 #include <string>
 
-// Appends one line per event to a file that keeps growing from run to run. Without a file, because
-// it couldn't be created or opened or has been closed, entries are dropped and nobody is told.
-// Safe on any thread.
+// Appends one line per entry to a file. Drops entries without an error if the file could not be
+// created or opened, or is closed. Safe on any thread.
 class Logger {
 public:
     enum class LogLevel { information, normal, warning, error, debug, trace };
 
     explicit Logger(const std::string& path);
 
-    // Returns when the entry is on the disk. `message` may hold line feeds: they are escaped.
+    // Escapes the line feeds in the message. Returns when the entry is flushed to the disk.
     void log(const std::string& message, LogLevel level);
 
-    // Entries that come later are dropped.
+    // Later entries are dropped.
     void close();
 
+    // Returns the message with "\n" and "\r\n" as escape sequences. Escaping twice changes nothing.
+    static std::string escaped(std::string message);
+
 private:
-    std::mutex m_mutex; // the end of the run closes the file while a task may still be logging
+    std::mutex m_mutex; // a task may still log when the main thread closes the file
     NSDateFormatter m_formatter;
     std::shared_ptr<NSFileHandle> m_file;
-    bool m_isInEntry = false; // one that the full disk has cut short
+    bool m_isInEntry = false; // the last entry was cut short by a full disk
 };
 
-// The logger of this process, made at its first use and there until the process ends.
+// Returns the logger of the process, which is created on first use and never destroyed.
 Logger& sharedLogger();

@@ -1,7 +1,7 @@
-# Builds the Debian package, which is left in build/package/, and checks it.
+# Builds the Debian package in build/package/ and tests it.
 
 make_package() {
-    need "${for_building[@]}" "${for_showing[@]}" "${for_detaching[@]}" "${for_testing[@]}" \
+    need_to_build "${for_showing[@]}" "${for_detaching[@]}" "${for_testing[@]}" \
         "${for_packaging[@]}"
     local place=build/package
     rm -rf "$place"
@@ -25,10 +25,9 @@ check_package() { # its share folder
     [ -z "$complaints" ] || { echo "$complaints" >&2 && return 1; }
 }
 
-# With a program that is built for use. A machine of its own takes root here, so that it has a user
-# besides.
+# Tests a release build; `package` is the caller's. With CI=1, a skipped test is a failure.
 test_release() { # program test...
-    "${as_root[@]}" env CI=1 tests/support/private-machine "$PWD" -- \
+    "${as_root[@]}" env CI=1 tests/support/sandbox "$PWD" -- \
         env PATH=/usr/sbin:/usr/bin:/sbin:/bin PACKAGE="${package[0]}" INSTALLER="$1" \
         PYTHONPATH="$PWD/tests/program:$PWD/package" python3 -B -m unittest -v "${@:2}"
 }

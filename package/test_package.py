@@ -1,79 +1,51 @@
-"""The package, installed and removed by the system's own dpkg on a private machine. What that
-changes of the system lies in memory, and goes with each test."""
+"""The package, installed and removed by dpkg. All changes of the system are in memory."""
 
-import os
 import pathlib
-import tempfile
 
-from machine import SOURCE, InstallerTest, mount, read_tree, remove, run, write
+from harness import *
 
 NAME = "quillbarninstaller"
-FOLDER = pathlib.Path("/Applications")
-
-
-def dpkg(*arguments):
-    """Without what other packages do then, such as listing all manual pages anew."""
-    run("dpkg", "--no-triggers", *arguments)
-
-
-def make_folder(group="root", mode="755"):
-    remove(FOLDER)
-    run("install", "-d", "-g", group, "-m", mode, FOLDER)
-
-
-STEPS = {"install": lambda: dpkg("--install", os.environ["PACKAGE"]), "remove": lambda: dpkg("--remove", NAME),
-         "purge": lambda: dpkg("--purge", NAME), "fill": lambda: write(f"{FOLDER}/file"),
-         "empty": lambda: remove(f"{FOLDER}/file"), "make": make_folder,
-         "make private": lambda: make_folder(mode="700"), "make alike": lambda: make_folder("sudo", "2775"),
-         "drop the group": lambda: run("groupdel", "sudo")}
-MADE = "root:sudo 2775"
-# What is done, and what the folder is then; or None: it is not there.
+MADE, PRIVATE = "root:sudo 2775", "root:root 700"
+# Steps, and the owner and mode of the folder afterwards if it exists.
 CASES = (
-    ("install", MADE), ("install, remove", None), ("install, install", MADE), ("install, install, purge", None),
-    ("install, remove, install, purge", None), ("install, fill, remove", MADE), ("install, fill, purge", MADE),
-    ("install, fill, remove, empty, purge", None), ("install, fill, remove, install, empty, purge", None),
-    ("install, make, purge", "root:root 755"),
-    ("install, fill, remove, make, install, purge", "root:root 755"),
-    ("make private, install", "root:root 700"), ("make private, install, purge", "root:root 700"),
-    ("make alike, install, purge", MADE), ("drop the group, install", "root:root 2775"))
+    ("install", MADE), ("install, remove", None), ("install, install", MADE),
+    ("install, install, purge", None), ("install, remove, install, purge", None),
+    ("install, fill, remove", MADE), ("install, fill, remove, install, empty, purge", None),
+    ("create private, install, purge", PRIVATE), ("create alike, install, purge", MADE),
+    ("install, fill, remove, create, install, purge", "root:root 755"),
+    ("drop group, install", "root:root 2775"))
+
+
+# Without the triggers of other packages, such as an update of the index of all manual pages.
+DPKG, CREATE = "dpkg --no-triggers ", f"rm -rf {APPLICATIONS}; install -d {APPLICATIONS} "
+STEPS = {"install": DPKG + '--install "$PACKAGE"', "remove": DPKG + "--remove " + NAME,
+         "purge": DPKG + "--purge " + NAME, "drop group": "groupdel sudo",
+         "fill": f"touch {APPLICATIONS}/file", "empty": f"rm {APPLICATIONS}/file", "create": CREATE,
+         "create private": CREATE + "-m 700", "create alike": CREATE + "-g sudo -m 2775"}
+
+
+def traces():
+    """Returns the paths of the package in the system."""
+    return {path for top in ("/etc", "/usr", "/var/lib") for path in pathlib.Path(top).rglob(f"*{NAME}*")}
 
 
 class Package(InstallerTest):
-    def setUp(self):
+    def test_folder_and_traces_after_each_step(self):
         for folder in "/etc", "/usr", "/var":
-            upper, work = tempfile.mkdtemp(), tempfile.mkdtemp()
-            os.chmod(upper, 0o755)
-            mount(self, folder, "-t", "overlay",
-                  "-o", f"lowerdir={folder},upperdir={upper},workdir={work}", "none")
-        dpkg("--purge", NAME)  # which may have been tried out
-        super().setUp()
-
-    def test_administrators_install_without_root(self):
-        run("useradd", "--groups", "sudo", "admin")
-        administrator = "runuser", "-u", "admin", "--", NAME
-        remove(FOLDER)
-        STEPS["install"]()
-        write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "the program")
-        self.run_installer("-install", SOURCE, command=administrator)
-        self.assertEqual(read_tree(FOLDER), read_tree(SOURCE))
-        self.run_installer("-uninstall", command=administrator)
-        self.assertEqual(read_tree(FOLDER), {})
-
-    def test_the_folder_goes_with_the_package_that_made_it_and_all_else_in_any_case(self):
-        def traces():
-            """Of the program in the system."""
-            return {path for top in ("/etc", "/usr", "/var/lib")
-                    for path in pathlib.Path(top).rglob(f"*{NAME}*")}
-
+            overlay(folder)
+        run("sh", "-ec", STEPS["purge"])  # of the real machine
         before = traces()
+        run("useradd", "--groups", "sudo", "admin")
         for steps, left in CASES:
-            with self.subTest(steps):
-                remove(FOLDER)
-                for step in steps.split(", "):
-                    STEPS[step]()
-                there = FOLDER.exists() and f"{FOLDER.owner()}:{FOLDER.group()} {FOLDER.stat().st_mode & 0o7777:o}"
-                self.assertEqual(there or None, left)
-                STEPS["purge"]()
+            with self.subTest(steps=steps):
+                remove(APPLICATIONS)
+                run("sh", "-ec", "; ".join(STEPS[step] for step in steps.split(", ")))
+                self.assertEqual(run("stat", "--format=%U:%G %a", APPLICATIONS, check=False) or None, left)
+                if steps == "install":  # a member of the group does not need root
+                    self.assertGreater(traces(), before)
+                    write(SOURCE + "quillbarn.app/Contents/MacOS/quillbarn", "the program")
+                    for arguments, tree in (INSTALL, read_tree(SOURCE)), (UNINSTALL, {}):
+                        self.run_installer(*arguments, command=["runuser", "-u", "admin", "--", NAME])
+                        self.assertEqual(read_tree(APPLICATIONS), tree)
+                run("sh", "-ec", STEPS["purge"])
                 self.assertEqual(traces(), before)
-        STEPS["install"]()
-        self.assertGreater(traces(), before)

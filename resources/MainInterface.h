@@ -5,6 +5,6 @@
 class ViewController;
 class WindowQt;
 
-// Opens the interface file into a window. The controller, connected, but neither the window's own
-// nor started yet.
+// Creates the parts of the interface file in a window. Returns the controller with its outlets
+// connected; the caller passes it to NSWindow::setContentViewController().
 std::shared_ptr<ViewController> openMainInterface(WindowQt& window);

@@ -3,7 +3,8 @@
 #include <QLabel>
 #include <QStyle>
 
-// The style's own sign, looked up when it can be seen: that takes a seventh of the program's start.
+// Loads the icon of the style when it becomes visible: at the start it would cost a seventh of the
+// start-up time.
 class WarningSign : public QLabel {
 public:
     using QLabel::QLabel;

@@ -3,10 +3,11 @@
 #include <Foundation/NSError.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
-// All that a task knows of the window. A task begins on a background thread, shows messages and
-// steps, and ends with one of the last four, once.
+// What a task may do to the window. A task starts on a background thread and calls end() once; the
+// unmount task continues on the main thread.
 class TaskReport {
 public:
     virtual ~TaskReport() = default;
@@ -14,28 +15,14 @@ public:
     // Returns when the message is in the window and in the log. Safe on any thread.
     virtual void showMessage(const std::string& message) = 0;
 
-    // The bar shows that of `count` entries the one at `index` is done, at the latest with the next
-    // frame of the screen. Returns when the window knows. From any thread but the main thread.
+    // Shows that the entry at `index` of `count` entries is done; the bar may lag behind by one
+    // frame. Background threads only.
     virtual void setProgress(std::int64_t index, std::int64_t count) = 0;
 
-    // Says that the task waits for the volume to be free, and goes on trying. On the main thread.
-    virtual void showWaiting() = 0;
+    // Shows that an attempt failed and the task retries. Main thread only.
+    virtual void showRetrying() = 0;
 
-    // The ends. They return at once, and what was shown before is in the window by then. Safe on
-    // any thread.
-    virtual void closeWindow() = 0;
-
-    // Closes the window, unless the run was a dry one: then it waits for a person.
-    virtual void finish() = 0;
-
-    // Opens the pane with the messages, the last of which told the error.
-    virtual void showFailure(const NSError& error) = 0;
-
-    // Tells the error after a blank line, and ends with it.
-    void fail(const NSError& error)
-    {
-        showMessage("");
-        showMessage(error.localizedDescription());
-        showFailure(error);
-    }
+    // Ends the run: closes the window, or shows the failure after a blank line and opens the pane.
+    // Returns before the window has closed or the pane is open. Safe on any thread.
+    virtual void end(const std::optional<NSError>& failure) = 0;
 };

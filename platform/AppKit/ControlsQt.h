@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-// The default button once it is told so, and no sooner.
+// Does not become the default button by receiving the focus.
 class ButtonQt : public ViewQt<QPushButton, NSButton> {
 public:
     explicit ButtonQt(QWidget* parent) : ViewQt(parent) { setAutoDefault(false); }
@@ -24,8 +24,8 @@ public:
     }
 };
 
-// The toolkit's bar counts in whole steps and draws each at once. A task steps thousands of times a
-// second, so that the bar may be as far behind as a screen is, until it is full.
+// The toolkit's bar repaints at each step, and a task makes thousands of steps per second. This one
+// repaints at most once per frame, and at once when it is full.
 class ProgressIndicatorQt : public ViewQt<QProgressBar, NSProgressIndicator> {
 public:
     using ViewQt::ViewQt;

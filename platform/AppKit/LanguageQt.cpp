@@ -7,27 +7,25 @@
 
 #include <algorithm>
 #include <clocale>
-#include <libintl.h>
 
-// For whoever has a locale, LANGUAGE comes before all other variables.
+// LANGUAGE takes precedence over all other variables unless the locale is "C".
 void chooseLanguage()
 {
     std::setlocale(LC_ALL, "");
-    bind_textdomain_codeset("libc", "UTF-8"); // whatever the locale's encoding
     const QByteArray locale = std::setlocale(LC_MESSAGES, nullptr);
-    const QByteArray wishes = qgetenv("LANGUAGE");
-    const auto languages = (locale == "C" || wishes.isEmpty() ? locale : wishes).split(':') << "en";
+    const QByteArray wanted = qgetenv("LANGUAGE");
+    const auto languages = (locale == "C" || wanted.isEmpty() ? locale : wanted).split(':') << "en";
     const auto chosen = std::ranges::find_if(languages, [](const QByteArray& language) {
         return language.startsWith("en") || QTranslator().load(":/i18n/" + language);
     });
     qputenv("LANGUAGE", *chosen);
 }
 
-void speakChosenLanguage()
+void installTranslations()
 {
     const QString language = qEnvironmentVariable("LANGUAGE");
-    const QString toolkits = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_";
-    for (const QString& catalogue : { ":/i18n/" + language, toolkits + language }) {
+    const QString toolkitTexts = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_";
+    for (const QString& catalogue : { ":/i18n/" + language, toolkitTexts + language }) {
         auto* const translator = new QTranslator(qApp);
         if (translator->load(catalogue)) QCoreApplication::installTranslator(translator);
     }

@@ -1,10 +1,10 @@
 #pragma once
 
-// Chooses the first language that the environment asks for, as the C library does, and that there
-// is a catalogue for, else English. Makes the environment ask for that alone, so that the library
-// and the toolkit speak it, too. Before there are threads.
+// Chooses the first language of the environment for which a catalogue exists, by the rules of the C
+// library, otherwise English. Sets LANGUAGE to it, which the toolkit reads, too. Before there are
+// threads.
 void chooseLanguage();
 
-// Installs the catalogues of that language, the program's and the toolkit's, and lays out windows
-// the way it is written. Once the application object is there.
-void speakChosenLanguage();
+// Installs the catalogues of that language, the program's and the toolkit's, and sets the direction
+// of layouts. After the application object has been created.
+void installTranslations();

@@ -2,14 +2,23 @@
 
 #include <AppKit/NSViewController.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
-#include <chrono>
+
+void WindowQt::setPane(QWidget& pane, QPushButton& defaultButton)
+{
+    m_pane = &pane;
+    m_constant = pane.sizeHint().height();
+    m_defaultButton = &defaultButton;
+    setWindowFlags(Qt::Window);
+    // Otherwise the animation could not set a negative margin.
+    setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);
+}
 
 void WindowQt::setTitle(const std::string& title) { setWindowTitle(QString::fromStdString(title)); }
 
@@ -25,15 +34,18 @@ void WindowQt::enableKeyEquivalentForDefaultButton()
     m_defaultButton->setFocus();
 }
 
-// A desktop that shows no window is not waited for long: a run needs nobody to look at it.
+// Waits for the first frame, but at most 1 s: the desktop may keep the window hidden.
 void WindowQt::makeKeyAndOrderFront()
 {
-    resize(std::min(width(), screen()->availableGeometry().width()), height());
+    resize(QSize(width(), sizeHint().height()).boundedTo(screen()->availableGeometry().size()));
     show();
-    QTimer patience;
-    patience.setSingleShot(true);
-    patience.start(std::chrono::seconds(1));
-    while (!windowHandle()->isExposed() && patience.isActive())
+    for (const QScreen* screen : QGuiApplication::screens())
+        connect(screen, &QScreen::availableGeometryChanged, this, &WindowQt::fitScreen);
+    connect(qApp, &QApplication::screenRemoved, this, &WindowQt::fitScreen, Qt::QueuedConnection);
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(1000); // milliseconds
+    while (!windowHandle()->isExposed() && limit.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
@@ -42,5 +54,23 @@ void WindowQt::keyPressEvent(QKeyEvent* event)
     if (m_defaultButton->isDefault()) ViewQt::keyPressEvent(event);
 }
 
-// What a person does to the window itself goes to its button, which does nothing while a task runs.
+// Escape and the close control press the button, which is disabled while a task runs.
 void WindowQt::reject() { m_defaultButton->click(); }
+
+// A Wayland client can neither read nor set the position of its window, and the margins of a frame
+// that the compositor draws are unknown: the window is assumed to be centred, below a title bar.
+QSize WindowQt::makeRoom(QSize size)
+{
+    if (!isVisible() || isMaximized()) // the window manager fits a maximised window
+        return size;
+    QWindow& handle = *windowHandle();
+    const bool canMove = !QGuiApplication::platformName().startsWith("wayland");
+    const QMargins titleBar(0, canMove ? 0 : 2 * fontMetrics().height(), 0, 0);
+    QRect room = screen()->availableGeometry().marginsRemoved(handle.frameMargins() | titleBar);
+    if (!canMove) room.setTop(room.center().y() - height() / 2);
+    size = size.boundedTo(room.size());
+    const QPoint place(std::clamp(handle.x(), room.left(), room.right() + 1 - size.width()),
+        std::clamp(handle.y(), room.top(), room.bottom() + 1 - size.height()));
+    if (canMove && place != handle.position()) handle.setPosition(place);
+    return size;
+}

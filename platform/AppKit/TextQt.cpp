@@ -8,7 +8,20 @@
 
 namespace {
 
-constexpr int leastHeight = 40; // points
+// Shows characters of a file name that could forge lines or reverse the text of a message.
+QString escaped(const QString& text)
+{
+    QString result;
+    for (const QChar character : text) {
+        const uint code = character.unicode();
+        const bool isUnsafe = code >= 0x2028 && code <= 0x202E; // separator or override
+        if (isUnsafe || (character.category() == QChar::Other_Control && code != '\n'))
+            result += QStringLiteral("\\u%1").arg(code, 4, 16, QLatin1Char('0'));
+        else
+            result += character;
+    }
+    return result;
+}
 
 }
 
@@ -19,7 +32,6 @@ TextQt::TextQt(QWidget* parent) : ViewQt(parent)
     setTabChangesFocus(true);
     setUndoRedoEnabled(false);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    setMinimumHeight(leastHeight);
     QTextOption option = document()->defaultTextOption();
     option.setAlignment(isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
     document()->setDefaultTextOption(option);
@@ -38,13 +50,13 @@ void TextQt::appendString(std::string_view text)
     if (isVisible()) publish();
 }
 
-// The line feed that ends the last line waits for the next: in the widget it would begin one.
+// Withholds the last line feed until the next message: in the widget it would begin an empty line.
 void TextQt::publish()
 {
     const std::size_t end = m_unpublished.size() - (m_unpublished.ends_with('\n') ? 1 : 0);
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
-    cursor.insertText(QString::fromUtf8(m_unpublished.data(), qsizetype(end)));
+    cursor.insertText(escaped(QString::fromUtf8(m_unpublished.data(), qsizetype(end))));
     m_unpublished.erase(0, end);
 }
 
@@ -60,7 +72,7 @@ NSSize TextQt::contentSize() const
 
 void TextQt::scrollPoint(NSPoint point) { goTo(int(std::lround(point.y / rowHeight()))); }
 
-// The rows of a line are known once it is laid out, and by then there may be more of them.
+// The widget counts the rows of a long line when it lays the line out, so the end may move.
 void TextQt::goTo(int row)
 {
     QScrollBar& bar = *verticalScrollBar();
@@ -70,7 +82,7 @@ void TextQt::goTo(int row)
         end = bar.maximum();
         bar.setValue(end);
         QResizeEvent unchanged(size(), size());
-        QPlainTextEdit::resizeEvent(&unchanged); // counts again
+        QPlainTextEdit::resizeEvent(&unchanged); // counts the rows again
     }
 }
 
@@ -80,7 +92,6 @@ void TextQt::showEvent(QShowEvent* event)
     publish();
     moveCursor(QTextCursor::End);
     goTo(rows());
-    sizeToFit();
 }
 
 void TextQt::resizeEvent(QResizeEvent* event)
@@ -88,5 +99,4 @@ void TextQt::resizeEvent(QResizeEvent* event)
     const bool wasAtEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     ViewQt::resizeEvent(event);
     if (wasAtEnd) goTo(rows());
-    sizeToFit();
 }

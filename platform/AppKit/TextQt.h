@@ -9,25 +9,25 @@
 
 #include <string>
 
-// The toolkit's text widget, which scrolls by itself, in rows. As long as it can't be seen it gets
-// nothing, so that a line costs the same at any length of the text.
+// The toolkit's text widget, which scrolls by itself, in rows. It gets the text when it becomes
+// visible; until then a line costs the same at any length of the text.
 class TextQt : public ViewQt<QPlainTextEdit, NSTextField, NSScrollView> {
 public:
     explicit TextQt(QWidget* parent);
+    void setRows(int rows) { m_rows = rows; } // of the preferred height, one for the margins
+    QSize sizeHint() const override { return { 400, int(m_rows * rowHeight()) }; }
+    QSize minimumSizeHint() const override { return sizeHint() / 4; }
 
     void setStringValue(std::string_view text) override;
     void appendString(std::string_view text) override;
-    NSRect frame() const override { return { {}, { bounds().size.width, m_height } }; }
-    void setFrame(const NSRect& frame) override { m_height = frame.size.height; }
-    void sizeToFit() override { m_height = rows() * rowHeight(); }
+    NSRect frame() const override { return { {}, { bounds().size.width, rows() * rowHeight() } }; }
+    void setFrame(const NSRect&) override {} // the widget fits the text by itself
+    void sizeToFit() override {}
     NSRect visibleRect() const override;
     void scrollPoint(NSPoint point) override;
 
-    std::shared_ptr<NSTextField> documentView() const override { return m_documentView.lock(); }
-    void setDocumentView(const std::shared_ptr<NSTextField>& view) override
-    {
-        m_documentView = view;
-    }
+    std::shared_ptr<NSTextField> documentView() const override { return m_document.lock(); }
+    void setDocumentView(const std::shared_ptr<NSTextField>& view) override { m_document = view; }
     NSSize contentSize() const override;
 
 private:
@@ -39,7 +39,7 @@ private:
     int rows() const { return document()->lineCount(); }
     CGFloat rowHeight() const { return fontMetrics().lineSpacing(); }
 
-    std::weak_ptr<NSTextField> m_documentView;
+    std::weak_ptr<NSTextField> m_document;
     std::string m_unpublished;
-    CGFloat m_height = 0;
+    int m_rows = 0;
 };

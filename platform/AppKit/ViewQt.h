@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-// A widget of the toolkit's that is one or more views of the window it is in.
+// A widget of the toolkit that implements one or more views of its window.
 template <class Widget, class... Views> class ViewQt : public Widget, public Views... {
 public:
     using Widget::Widget;

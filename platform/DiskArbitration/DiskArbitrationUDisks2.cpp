@@ -30,7 +30,7 @@ public:
 
 bool DADisk::unmount(const UDisks2& service)
 {
-    const auto objects = service.objects();
+    const auto objects = service.objects().value_or(UDisks2::Objects());
     const auto volume = std::ranges::find_if(objects, [&](const UDisks2::Object& object) {
         return std::ranges::count(object.mountPoints, mountPoint, &QByteArray::constData) > 0;
     });
@@ -43,16 +43,17 @@ bool DADisk::unmount(const UDisks2& service)
 
     // Each call removes one mount point. The limit is for a service that removes none.
     constexpr int callLimit = 100;
-    int calls = 0;
-    while (calls++ < callLimit && service.call(volume.key(), "Filesystem", "Unmount"))
-        if (service.objects().value(volume.key()).mountPoints.isEmpty()) return true;
+    for (int i = 0; i < callLimit && service.call(volume.key(), "Filesystem", "Unmount"); ++i)
+        if (const auto left = service.objects();
+            left && left->value(volume.key()).mountPoints.isEmpty())
+            return true;
     return false;
 }
 
 bool DADisk::eject(const UDisks2& service)
 {
     if (image.path().isEmpty())
-        return service.call(drive, "Drive", "Eject"); // fails if there is none
+        return !drive.path().isEmpty() && service.call(drive, "Drive", "Eject");
     // The reply is ignored: if the device is in use, it is success too, and the kernel detaches the
     // image after the last close. An image that detaches itself may be gone already, and UDisks
     // 2.10.1 may crash when it refuses the call for that reason.

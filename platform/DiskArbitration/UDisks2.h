@@ -5,9 +5,11 @@
 #include <QDBusObjectPath>
 #include <QMap>
 
+#include <optional>
+
 // The disk service UDisks2, over a system bus connection of its own, so that a lost connection does
-// not affect later ones. Every call blocks until the reply arrives; safe on any thread, but not for
-// the main thread. A reply of an undocumented type counts as an error.
+// not affect later ones. Every call blocks until the reply arrives. Any thread except the main
+// thread. A reply of an undocumented type counts as an error.
 class UDisks2 {
 public:
     // A block device or a drive. A property that the object does not have is empty.
@@ -28,8 +30,8 @@ public:
     UDisks2(const UDisks2&) = delete;
     UDisks2& operator=(const UDisks2&) = delete;
 
-    // Returns the current objects of the service, or none on an error.
-    Objects objects() const;
+    // Returns the current objects of the service; nothing on an error or after 25 seconds.
+    std::optional<Objects> objects() const;
 
     // Calls a method whose only argument is a dictionary of options (here empty) and that returns
     // nothing. `interface` is the last part of its name. Returns whether the call succeeded. Has no

@@ -48,13 +48,13 @@ UDisks2::UDisks2()
 
 UDisks2::~UDisks2() { QDBusConnection::disconnectFromPeer(m_bus.name()); }
 
-UDisks2::Objects UDisks2::objects() const
+std::optional<UDisks2::Objects> UDisks2::objects() const
 {
     const QDBusMessage request = QDBusMessage::createMethodCall(service, "/org/freedesktop/UDisks2",
         "org.freedesktop.DBus.ObjectManager", "GetManagedObjects");
     const QDBusMessage reply = m_bus.call(request);
+    if (!isSuccess(reply, "a{oa{sa{sv}}}")) return std::nullopt;
     Objects objects;
-    if (!isSuccess(reply, "a{oa{sa{sv}}}")) return objects;
     const auto found = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(reply.arguments().first());
     for (auto object = found.begin(); object != found.end(); ++object)
         objects[object.key()] = { read<QByteArrayList>(*object, "Filesystem", "MountPoints", "aay"),

@@ -7,27 +7,32 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
+#include <fcntl.h>
 #include <latch>
 #include <sys/eventfd.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
-// Readable while the main thread is asked to run its queue.
+// What the toolkit and two caches of open folders need.
+constexpr std::size_t requiredDescriptors = 40;
+
+// Readable while the main thread is requested to run its queue.
 int wakeUpEvent()
 {
-    static const FileDescriptor event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    static const FileDescriptor event(check(eventfd, 0U, EFD_CLOEXEC | EFD_NONBLOCK));
     return event.number();
 }
 
 MainQueue& mainQueue()
 {
     // Never destroyed: a background thread may still submit when the process ends.
-    static auto* const queue = new MainQueue([] { eventfd_write(wakeUpEvent(), 1); });
+    static auto* const queue = new MainQueue([event = wakeUpEvent()] { eventfd_write(event, 1); });
     return *queue;
 }
 
-// Makes the loop of the main thread run the queue.
+// Makes the main loop run the queue.
 void attachToMainLoop()
 {
     auto* const notifier
@@ -45,19 +50,21 @@ std::latch& activation()
     return *latch;
 }
 
+NSError failureToStart(const std::system_error& reason)
+{
+    return failure(reason, {}, NSLocalizedString("Errors", "operation not started"));
+}
+
 class GlobalQueue : public DispatchQueue {
 public:
     void async(std::function<void()> work) override
-    {
-        try {
-            std::thread([work = std::move(work)] {
-                activation().wait();
-                work();
-            }).detach();
-        } catch (const std::system_error& error) {
-            throw failure(error, {},
-                NSLocalizedString("Errors", "The work couldn’t be started because %1 (%2)."));
-        }
+    try {
+        std::thread([work = std::move(work)] {
+            activation().wait();
+            work();
+        }).detach();
+    } catch (const std::system_error& error) {
+        throw failureToStart(error);
     }
 };
 
@@ -69,6 +76,16 @@ DispatchQueue& DispatchQueue::global()
 {
     static GlobalQueue queue;
     return queue;
+}
+
+void prepareDispatchQueues()
+try {
+    mainQueue();
+    std::vector<FileDescriptor> unused;
+    while (unused.size() < requiredDescriptors)
+        unused.emplace_back(check(fcntl, wakeUpEvent(), F_DUPFD_CLOEXEC, 0));
+} catch (const std::system_error& reason) {
+    throw failureToStart(reason);
 }
 
 void activateDispatchQueues()

@@ -5,6 +5,7 @@
 #include <cassert>
 #include <chrono>
 #include <exception>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -12,32 +13,19 @@ namespace {
 using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds frame { 8 };
 
-}
-
-// What one thread that submits synchronously waits for. Shared with the queue, which may still be
-// at it when the thread has already seen it come.
-struct MainQueue::Completion {
+// What a thread that submits synchronously waits for. Shared with the queue, which may still access
+// it after the thread has woken.
+struct Completion {
     std::atomic<bool> isDone = false;
     ShortWait wait;
-
-    void await()
-    {
-        if (!wait.spinUntil(isDone)) isDone.wait(false, std::memory_order_acquire);
-    }
-
-    void signal()
-    {
-        isDone.store(true, std::memory_order_release);
-        isDone.notify_one();
-    }
 };
+
+}
 
 MainQueue::MainQueue(std::function<void()> wakeMainThread)
     : m_wakeMainThread(std::move(wakeMainThread))
 {
 }
-
-void MainQueue::async(std::function<void()> work) { add({ std::move(work), nullptr }); }
 
 void MainQueue::sync(const std::function<void()>& work)
 {
@@ -45,25 +33,27 @@ void MainQueue::sync(const std::function<void()>& work)
     static thread_local const auto completion = std::make_shared<Completion>();
     completion->isDone = false;
     std::exception_ptr error;
-    const auto workOrNoteError = [&] {
+    async([&work, &error, completion = completion] {
         try {
             work();
         } catch (...) {
             error = std::current_exception();
         }
-    };
-    add({ workOrNoteError, completion });
-    completion->await();
+        completion->isDone.store(true, std::memory_order_release);
+        completion->isDone.notify_one();
+    });
+    if (!completion->wait.spinUntil(completion->isDone))
+        completion->isDone.wait(false, std::memory_order_acquire);
     if (error) std::rethrow_exception(error);
 }
 
-void MainQueue::add(Item item)
+void MainQueue::async(std::function<void()> work)
 {
     bool wasAwake = false;
     {
         const std::lock_guard lock(m_mutex);
-        m_items.push_back(std::move(item));
-        m_hasItems.store(true, std::memory_order_relaxed);
+        m_works.push_back(std::move(work));
+        m_hasWork.store(true, std::memory_order_relaxed);
         wasAwake = std::exchange(m_isAwake, true);
     }
     if (!wasAwake) m_wakeMainThread();
@@ -79,28 +69,27 @@ void MainQueue::run()
             m_wakeMainThread();
             return;
         }
-    } while (m_idle.spinUntil(m_hasItems) || !fallAsleep());
+    } while (m_idle.spinUntil(m_hasWork) || !fallAsleep());
 }
 
 bool MainQueue::runNext()
 {
-    Item item;
+    std::function<void()> work;
     {
         const std::lock_guard lock(m_mutex);
-        if (m_items.empty()) return false;
-        item = std::move(m_items.front());
-        m_items.pop_front();
-        m_hasItems.store(!m_items.empty(), std::memory_order_relaxed);
+        if (m_works.empty()) return false;
+        work = std::move(m_works.front());
+        m_works.pop_front();
+        m_hasWork.store(!m_works.empty(), std::memory_order_relaxed);
     }
-    item.work();
-    if (item.completion) item.completion->signal();
+    work();
     return true;
 }
 
-// Unless something came in the last moment.
+// Returns false if work was submitted in the meantime.
 bool MainQueue::fallAsleep()
 {
     const std::lock_guard lock(m_mutex);
-    m_isAwake = !m_items.empty();
+    m_isAwake = !m_works.empty();
     return !m_isAwake;
 }

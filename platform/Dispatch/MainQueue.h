@@ -6,11 +6,11 @@
 
 #include <atomic>
 #include <deque>
-#include <memory>
 #include <mutex>
 
-// The main thread's queue without the main thread's loop: when there is work and nobody is at it,
-// `wakeMainThread` is called, from any thread; the loop then calls run() on the main thread.
+// The main queue without the main loop. If run() is not active when work is submitted, or if work
+// is left when it returns, calls `wakeMainThread` on any thread; the main loop then calls run() on
+// the main thread.
 class MainQueue : public DispatchMainQueue {
 public:
     explicit MainQueue(std::function<void()> wakeMainThread);
@@ -18,30 +18,27 @@ public:
     void async(std::function<void()> work) override;
     void sync(const std::function<void()>& work) override;
 
-    // Runs what is there and what follows closely; but not for longer than a frame stays on
-    // the screen, so that the loop gets to draw and to hear the person.
+    // Runs the queued work and what follows within a short wait. Returns after one frame, so that
+    // the main loop can repaint and process input.
     void run();
 
 private:
-    struct Completion;
-    struct Item {
-        std::function<void()> work;
-        std::shared_ptr<Completion> completion; // none: nobody waits
-    };
-
-    void add(Item item);
     bool runNext();
     bool fallAsleep();
 
     const std::function<void()> m_wakeMainThread;
-    std::mutex m_mutex; // guards the two below
-    std::deque<Item> m_items;
-    bool m_isAwake = false; // run() is at work or about to be called
-    std::atomic<bool> m_hasItems = false;
+    std::mutex m_mutex; // guards the next two members
+    std::deque<std::function<void()>> m_works;
+    bool m_isAwake = false; // run() is active or about to be called
+    std::atomic<bool> m_hasWork = false;
     ShortWait m_idle; // on the main thread
 };
 
-// The queues start inactive: what is submitted waits for this call, which is made once, on the main
-// thread, when the application is on the screen. A task that had begun before could put the main
-// thread to sleep with nothing shown yet.
+// Creates the main queue, on the main thread. Throws an NSError if the process cannot open the
+// files that it needs.
+void prepareDispatchQueues();
+
+// The queues start inactive: submitted work waits for this call, which is made once, on the main
+// thread, when the first frame is on the screen or after one second. A task that started earlier
+// could block the main thread behind an empty window.
 void activateDispatchQueues();

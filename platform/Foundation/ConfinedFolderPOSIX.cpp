@@ -7,30 +7,53 @@
 #include <cassert>
 #include <fcntl.h>
 #include <filesystem>
+#include <linux/magic.h>
 #include <sys/file.h>
+#include <sys/sysmacros.h>
+#include <sys/vfs.h>
 
 namespace {
 
-using Way = OpenFolders::Way;
+using Scope = OpenFolders::Scope;
 
-// Some volumes have no locks.
+// Some file systems do not support locks.
 bool isLockedByAnother(const FileDescriptor& folder)
 {
-    return uninterrupted([&] { return flock(folder.number(), LOCK_EX | LOCK_NB); }) < 0
-        && errno == EWOULDBLOCK;
+    return uninterrupted(flock, folder.number(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK;
 }
 
 void removeTree(const Item& item)
 {
     const auto remove = [&](int flags, std::initializer_list<int> expected) {
-        return check([&] { return unlinkat(item.folder, item.name.c_str(), flags); }, expected) == 0
+        return checkExcept(expected, unlinkat, item.folder, item.name.c_str(), flags) == 0
             || errno == ENOENT;
     };
     if (remove(0, { EISDIR, ENOENT }) || remove(AT_REMOVEDIR, { ENOENT, ENOTEMPTY })) return;
-    const FileDescriptor folder = openFolder(item, O_PATH, Way::beneath);
+    const FileDescriptor folder = openFolder(item, O_PATH, Scope::beneath);
     for (const std::string& name : namesIn({ folder.number(), "." }))
         removeTree({ folder.number(), name });
     remove(AT_REMOVEDIR, { ENOENT });
+}
+
+// Without a block device, FUSE does not pass syncfs on to the file system behind it.
+bool ignoresSyncfs(const FileDescriptor& folder)
+{
+    struct statfs volume = {};
+    struct stat status = {};
+    check(fstatfs, folder.number(), &volume);
+    check(fstat, folder.number(), &status);
+    return volume.f_type == FUSE_SUPER_MAGIC && major(status.st_dev) == 0;
+}
+
+void flush(const Item& item, int flags, std::initializer_list<int> expected)
+{
+    constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const char* const name = item.name.c_str();
+    const FileDescriptor file(
+        checkExcept(expected, openat, item.folder, name, flags | safely, 0600));
+    if (file.isOpen() && (flags & O_CREAT))
+        unlinkat(item.folder, name, 0); // also if the flush fails
+    if (file.isOpen()) check(fsync, file.number());
 }
 
 }
@@ -46,76 +69,86 @@ ConfinedFolder::~ConfinedFolder() = default;
 
 void ConfinedFolder::open()
 try {
-    FileDescriptor folder = openFolder({ AT_FDCWD, m_folder }, O_RDONLY, Way::anywhere, { ENOENT });
+    FileDescriptor folder
+        = openFolder({ AT_FDCWD, m_folder }, O_RDONLY, Scope::anywhere, { ENOENT });
     if (!folder.isOpen()) return;
     if (isLockedByAnother(folder))
-        throw NSError(
-            NSLocalizedString("Errors",
-                "The folder “%1” couldn’t be opened because another program holds it locked."),
-            { m_folder });
-    m_folders = std::make_unique<OpenFolders>(std::move(folder), m_folder, Way::beneath);
+        throw NSError(NSLocalizedString("Errors", "folder is locked"), { m_folder });
+    m_ignoresSyncfs = ignoresSyncfs(folder);
+    m_folders = std::make_unique<OpenFolders>(std::move(folder), m_folder, Scope::beneath);
 } catch (const std::system_error& reason) {
-    throw failure(reason, { m_folder },
-        NSLocalizedString("Errors", "The folder “%1” couldn’t be opened because %2 (%3)."));
+    throw failure(reason, { m_folder }, NSLocalizedString("Errors", "folder not opened"));
 }
 
 void ConfinedFolder::create()
 try {
     std::filesystem::create_directories(m_folder);
     open();
+    if (!m_folders) throw errorOf(std::errc::no_such_file_or_directory); // removed again
 } catch (const std::system_error& reason) {
-    throw failureToChange(reason, { m_folder },
-        NSLocalizedString("Errors", "The folder “%1” couldn’t be created because %2 (%3)."));
+    throw failureToChange(reason, { m_folder }, NSLocalizedString("Errors", "folder not created"));
 }
 
-void ConfinedFolder::createDirectoryAtPath(const std::string& path)
+void ConfinedFolder::createDirectoryAtPath(
+    const std::string& path, WithIntermediateDirectories intermediates)
 try {
-    if (!m_folders) create();
-    const Item item = m_folders->find(path);
+    const bool acceptsExisting = intermediates == WithIntermediateDirectories::yes;
+    if (!m_folders && acceptsExisting) create();
+    const Item item = *m_folders->find(path);
+    const char* const name = item.name.c_str();
     struct stat status = {};
-    if (check([&] { return mkdirat(item.folder, item.name.c_str(), 0777); }, { EEXIST }) < 0) {
-        check(
-            [&] { return fstatat(item.folder, item.name.c_str(), &status, AT_SYMLINK_NOFOLLOW); });
-        if (!S_ISDIR(status.st_mode)) throw errorOf(std::errc::file_exists);
+    if (checkExcept({ EEXIST }, mkdirat, item.folder, name, mode_t(0777)) < 0) {
+        check(fstatat, item.folder, name, &status, AT_SYMLINK_NOFOLLOW);
+        if (!acceptsExisting || !S_ISDIR(status.st_mode)) throw errorOf(std::errc::file_exists);
     }
+    noteUnflushed(path);
 } catch (const std::system_error& reason) {
-    throw failureToChange(reason, { path },
-        NSLocalizedString("Errors", "The folder “%1” couldn’t be created because %2 (%3)."));
+    throw failureToChange(reason, { path }, NSLocalizedString("Errors", "folder not created"));
 }
 
 void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& toPath)
 {
     const CopySource source(*m_sourceFolders, path);
-    if (!S_ISREG(source.status.st_mode) && !S_ISLNK(source.status.st_mode)
-        && !S_ISDIR(source.status.st_mode))
-        throw NSError(
-            NSLocalizedString("Errors",
-                "“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket."),
-            { path, toPath });
     try {
-        if (S_ISDIR(source.status.st_mode)) throw errorOf(std::errc::is_a_directory);
-        copyItem(source, m_folders->find(toPath));
+        copyItem(source, *m_folders->find(toPath));
+        noteUnflushed(toPath);
     } catch (const std::system_error& reason) {
-        throw failureToChange(reason, { path, toPath },
-            NSLocalizedString("Errors", "“%1” couldn’t be copied to “%2” because %3 (%4)."));
+        throw failureToChange(
+            reason, { path, toPath }, NSLocalizedString("Errors", "item not copied"));
     }
+}
+
+void ConfinedFolder::noteUnflushed(const std::string& path)
+{
+    if (m_ignoresSyncfs) m_unflushed.push_back(path);
+}
+
+void ConfinedFolder::requireCopyableItemAtPath(const std::string& path)
+{
+    OpenFolders folders;
+    const CopySource source(folders, path);
 }
 
 void ConfinedFolder::removeItemAtPath(const std::string& path)
 try {
     if (!m_folders) return;
-    const Item item = m_folders->find(path, { ELOOP, ENOENT, ENOTDIR });
-    if (item.folder >= 0) removeTree(item);
+    if (const auto item = m_folders->find(path, { ELOOP, ENOENT, ENOTDIR })) removeTree(*item);
+    std::erase(m_unflushed, path);
 } catch (const std::system_error& reason) {
-    throw failureToChange(
-        reason, { path }, NSLocalizedString("Errors", "“%1” couldn’t be removed because %2 (%3)."));
+    throw failureToChange(reason, { path }, NSLocalizedString("Errors", "item not removed"));
 }
 
 void ConfinedFolder::synchronize()
 try {
-    if (m_folders) check([&] { return syncfs(m_folders->top()); });
+    if (!m_folders) return;
+    for (const std::string& path : m_unflushed)
+        flush(*m_folders->find(path), O_RDONLY, { EACCES, ELOOP });
+    if (m_ignoresSyncfs && m_unflushed.empty()) {
+        // With a new file, a journaling file system also commits earlier removals.
+        const Item item { m_folders->root(), temporaryName() };
+        flush(item, O_WRONLY | O_CREAT, {});
+    }
+    check(syncfs, m_folders->root());
 } catch (const std::system_error& reason) {
-    throw failure(reason, { m_folder },
-        NSLocalizedString(
-            "Errors", "What was changed in “%1” couldn’t be written to the disk because %2 (%3)."));
+    throw failure(reason, { m_folder }, NSLocalizedString("Errors", "changes not written"));
 }

@@ -6,12 +6,12 @@
 #include <system_error>
 #include <vector>
 
-// A translated sentence such as "“%1” couldn’t be removed because %2 (%3).", with the arguments,
-// then the reason that the system gave, then the system's words for it.
-NSError failure(const std::system_error& reason, std::vector<std::string> arguments,
+// Returns the description of a failed system call: the translated sentence with the arguments in
+// its places, followed by the reason with the errno symbol.
+NSError failure(const std::system_error& reason, const std::vector<std::string>& arguments,
     const std::string& sentence);
 
-// The same, where the last of the arguments is the path of what was to be changed: then it says who
-// may, if the caller may not.
+// The same for a failed change of the last argument, a path. If permission is denied, adds who can
+// write to the folder.
 NSError failureToChange(const std::system_error& reason, const std::vector<std::string>& arguments,
     const std::string& sentence);

@@ -2,29 +2,44 @@
 
 #include "OpenFolders.h"
 
+#include <array>
 #include <string>
 #include <sys/stat.h>
 
-// What is to be copied, open. Throws an NSError where it can't be read.
+// The source of a copy, open. Throws an NSError if it cannot be read or is a device, a FIFO or a
+// socket.
 struct CopySource {
     CopySource(OpenFolders& folders, const std::string& path);
 
     struct stat status = {};
-    FileDescriptor file; // not open for a link
-    std::string link; // where it leads
+    FileDescriptor file; // of a regular file
+    std::string target; // of a symlink
 };
 
-// The three of them throw a std::system_error.
+// All following functions throw a std::system_error.
+
+// Returns a hidden name that no other process uses while this one holds the lock.
+std::string temporaryName();
 
 // See ConfinedFolder::copyItemAtPath.
 void copyItem(const CopySource& source, const Item& to);
 
-// Copies the content of a regular file, whose status is given, into an empty one: sharing its
-// blocks where the file system can, with its holes as holes. Data that ends before the file does,
-// or a file that is of another length by then, is errc::no_message_available.
+// Copies the data of a regular file, `status` being its status, to an empty file. Keeps holes and
+// shares the blocks if the file system can (reflink), in files of 128 KiB or more. Throws ENODATA
+// (errc::no_message_available) if the size of the source changes during the copy.
 void copyFileData(const FileDescriptor& from, const struct stat& status, const FileDescriptor& to);
 
-// Gives the file `to` what the file `from` carries beside its data. `status` is that of `from`
-// before its data was read.
+// Copies owner, mode, xattrs, ACL and times. `status` is the status of `from` before its data was
+// read.
 void copyFileAttributes(
     const FileDescriptor& from, const struct stat& status, const FileDescriptor& to);
+
+// For a call that copies metadata: throws only errors that indicate damage. Any other error means
+// that the volume, or the permissions of the user, cannot keep the metadata.
+template <class Call, class... Arguments> auto tryToKeep(Call* call, Arguments... arguments)
+{
+    const auto result = uninterrupted(call, arguments...);
+    constexpr std::array damage { EIO, ENOMEM, ESTALE, EUCLEAN };
+    if (result < 0 && std::ranges::find(damage, errno) != damage.end()) throw lastError();
+    return result;
+}

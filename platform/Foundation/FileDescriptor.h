@@ -7,12 +7,12 @@
 #include <unistd.h>
 #include <utility>
 
-// An open file of this process, closed when its owner goes: of a file, a folder, an event. Moves.
+// Owns a descriptor of any kind and closes it. Movable.
 class FileDescriptor {
 public:
     FileDescriptor() = default;
 
-    // Takes over what open() or its like returned; a negative number is none.
+    // Takes ownership of what open() or a similar call returned; a negative number means closed.
     explicit FileDescriptor(int number) : m_number(number) {}
     ~FileDescriptor()
     {
@@ -28,33 +28,40 @@ public:
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
 
-    // Leaves the closing to someone else.
+    // Gives up ownership.
     int release() { return std::exchange(m_number, -1); }
 
 private:
     int m_number = -1;
 };
 
-// What the system call that has just failed says, to be thrown.
+// Returns errno as an exception to throw.
 inline std::system_error lastError() { return { errno, std::generic_category() }; }
 
-// The same for a reason that no call has given.
+// The same for an error that no system call reported.
 inline std::system_error errorOf(std::errc reason) { return { make_error_code(reason) }; }
 
-// Calls the system, again whenever a signal interrupts it, and answers what it answers. Not for
-// close(), which is over even then.
-template <class Call> auto uninterrupted(const Call& call)
+// Calls the system, again each time the call is interrupted (EINTR), and returns the result. Not
+// for close(), which must not be repeated.
+template <class Call, class... Arguments> auto uninterrupted(Call* call, Arguments... arguments)
 {
     for (;;) {
-        const auto answer = call();
-        if (answer >= 0 || errno != EINTR) return answer;
+        const auto result = call(arguments...);
+        if (result >= 0 || errno != EINTR) return result;
     }
 }
 
-// The same, and throws its error, unless that is one of those `expected`.
-template <class Call> auto check(const Call& call, std::initializer_list<int> expected = {})
+// The same; throws an error unless it is expected.
+template <class Call, class... Arguments>
+auto checkExcept(std::initializer_list<int> expected, Call* call, Arguments... arguments)
 {
-    const auto answer = uninterrupted(call);
-    if (answer < 0 && std::ranges::find(expected, errno) == expected.end()) throw lastError();
-    return answer;
+    const auto result = uninterrupted(call, arguments...);
+    if (result < 0 && std::ranges::find(expected, errno) == expected.end()) throw lastError();
+    return result;
+}
+
+// The same; throws every error.
+template <class Call, class... Arguments> auto check(Call* call, Arguments... arguments)
+{
+    return checkExcept({}, call, arguments...);
 }

@@ -8,10 +8,10 @@
 
 namespace {
 
-bool isFileWithOneName(const FileDescriptor& file)
+bool isFileWithOneLink(const FileDescriptor& file)
 {
     struct stat status = {};
-    return file.isOpen() && uninterrupted([&] { return fstat(file.number(), &status); }) == 0
+    return file.isOpen() && uninterrupted(fstat, file.number(), &status) == 0
         && S_ISREG(status.st_mode) && status.st_nlink == 1;
 }
 
@@ -19,10 +19,10 @@ bool isFileWithOneName(const FileDescriptor& file)
 
 std::shared_ptr<NSFileHandle> NSFileHandle::fileHandleForWritingAtPath(const std::string& path)
 {
-    // O_NONBLOCK: a pipe in the file's place that nobody reads is refused, not waited for.
+    // O_NONBLOCK: fails for a FIFO without a reader instead of waiting for one.
     constexpr int flags = O_WRONLY | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    FileDescriptor file(uninterrupted([&] { return open(path.c_str(), flags); }));
-    return isFileWithOneName(file) ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
+    FileDescriptor file(uninterrupted(open, path.c_str(), flags));
+    return isFileWithOneLink(file) ? std::make_shared<NSFileHandle>(std::move(file)) : nullptr;
 }
 
 NSFileHandle::NSFileHandle(FileDescriptor file)
@@ -36,17 +36,14 @@ std::size_t NSFileHandle::writeData(std::string_view data)
 {
     std::size_t done = 0;
     while (done < data.size()) {
-        const auto written = uninterrupted(
-            [&] { return write(m_file->number(), data.data() + done, data.size() - done); });
+        const auto written
+            = uninterrupted(write, m_file->number(), data.data() + done, data.size() - done);
         if (written <= 0) break;
         done += std::size_t(written);
     }
     return done;
 }
 
-void NSFileHandle::synchronizeFile()
-{
-    uninterrupted([&] { return fdatasync(m_file->number()); });
-}
+void NSFileHandle::synchronizeFile() { uninterrupted(fdatasync, m_file->number()); }
 
 void NSFileHandle::closeFile() { *m_file = FileDescriptor(); }

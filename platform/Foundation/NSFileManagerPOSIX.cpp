@@ -9,26 +9,29 @@
 
 namespace {
 
-constexpr std::initializer_list<int> absence { ELOOP, ENOENT, ENOTDIR };
+constexpr std::initializer_list<int> notFound { ELOOP, ENOENT, ENOTDIR };
 
 bool createNew(const std::string& path)
 {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
-    return FileDescriptor(uninterrupted([&] { return open(path.c_str(), flags, 0666); })).isOpen();
+    return FileDescriptor(uninterrupted(open, path.c_str(), flags, 0666)).isOpen();
 }
 
-bool leadsNowhere(const std::string& path)
+bool isDanglingSymlink(const std::string& path)
 {
     std::error_code reason;
     return is_symlink(std::filesystem::symlink_status(path, reason))
         && !exists(std::filesystem::status(path, reason));
 }
 
+NSError failureToExamine(const std::system_error& reason, const std::string& path)
+{
+    return failure(reason, { path }, NSLocalizedString("Errors", "item not examined"));
 }
 
-NSFileManager::NSFileManager(std::unique_ptr<OpenFolders> folders) : m_folders(std::move(folders))
-{
 }
+
+NSFileManager::NSFileManager(std::unique_ptr<OpenFolders> cache) : m_folders(std::move(cache)) {}
 
 NSFileManager::NSFileManager() : NSFileManager(std::make_unique<OpenFolders>()) {}
 
@@ -40,57 +43,66 @@ const NSFileManager& NSFileManager::defaultManager()
     return manager;
 }
 
-Item NSFileManager::find(const std::string& path, std::initializer_list<int> expected) const
+std::optional<Item> NSFileManager::find(
+    const std::string& path, std::initializer_list<int> expected) const
 {
     return m_folders ? m_folders->find(path, expected) : Item { AT_FDCWD, path };
 }
 
-std::optional<FileIdentity> NSFileManager::fileExistsAtPath(
-    const std::string& path, bool& isDirectory) const
+bool NSFileManager::fileExistsAtPath(const std::string& path, FileStatus* status) const
 try {
-    struct stat status = {};
-    const Item item = find(path, absence);
-    if (item.folder == -1
-        || check([&] { return fstatat(item.folder, item.name.c_str(), &status, 0); }, absence) < 0)
-        return std::nullopt;
-    isDirectory = S_ISDIR(status.st_mode);
-    return FileIdentity { status.st_dev, status.st_ino };
+    const std::optional<Item> item = find(path, notFound);
+    struct stat found = {};
+    const auto examine = [&](int flags) {
+        const char* const name = item->name.c_str();
+        return checkExcept(notFound, fstatat, item->folder, name, &found, flags) == 0;
+    };
+    if (!item || !examine(AT_SYMLINK_NOFOLLOW)) return false;
+    const bool isSymlink = S_ISLNK(found.st_mode);
+    if (isSymlink && !examine(0)) return false;
+    if (status)
+        *status = { S_ISDIR(found.st_mode), !S_ISDIR(found.st_mode) && !S_ISREG(found.st_mode),
+            isSymlink, { found.st_dev, found.st_ino } };
+    return true;
 } catch (const std::system_error& reason) {
-    throw failure(reason, { path },
-        NSLocalizedString("Errors", "“%1” couldn’t be looked at because %2 (%3)."));
+    throw failureToExamine(reason, path);
 }
 
-bool NSFileManager::fileExistsAtPath(const std::string& path) const
-{
-    bool isDirectory = false;
-    return fileExistsAtPath(path, isDirectory).has_value();
+bool NSFileManager::isReadableFileAtPath(const std::string& path) const
+try {
+    const std::optional<Item> item = find(path);
+    return faccessat(item->folder, item->name.c_str(), R_OK, 0) == 0;
+} catch (const std::system_error&) {
+    return false;
 }
 
 std::vector<std::string> NSFileManager::contentsOfDirectoryAtPath(const std::string& path) const
 try {
-    return namesIn(find(path));
+    return namesIn(*find(path));
 } catch (const std::system_error& reason) {
-    throw failure(reason, { path },
-        NSLocalizedString("Errors", "The folder “%1” couldn’t be opened because %2 (%3)."));
+    throw failure(reason, { path }, NSLocalizedString("Errors", "folder not read"));
 }
 
 std::optional<std::string> NSFileManager::destinationOfSymbolicLinkAtPath(
     const std::string& path) const
 try {
-    return readLink(find(path));
+    const std::optional<Item> item = find(path, notFound);
+    return item ? readLink(*item) : std::nullopt;
 } catch (const std::system_error& reason) {
-    throw failure(reason, { path },
-        NSLocalizedString("Errors", "“%1” couldn’t be looked at because %2 (%3)."));
+    throw failureToExamine(reason, path);
 }
 
-// The kernel names what it has opened in one step; asking for each part of the path in turn, as
-// realpath() does, takes minutes on a path of a thousand folders.
+// The kernel reports the path of an open file in one step; realpath() examines each component and
+// needs minutes for a path of a thousand folders.
 std::string NSFileManager::stringByResolvingSymlinksInPath(const std::string& path) const
-{
-    const FileDescriptor item(
-        uninterrupted([&] { return open(path.c_str(), O_PATH | O_CLOEXEC); }));
-    const std::string name = "/proc/self/fd/" + std::to_string(item.number());
-    return destinationOfSymbolicLinkAtPath(name).value_or(path);
+try {
+    const Item item = *find(path);
+    const FileDescriptor file(check(openat, item.folder, item.name.c_str(), O_PATH | O_CLOEXEC));
+    const auto target = readLink({ AT_FDCWD, "/proc/self/fd/" + std::to_string(file.number()) });
+    if (!target) throw errorOf(std::errc::no_such_file_or_directory);
+    return *target;
+} catch (const std::system_error& reason) {
+    throw failureToExamine(reason, path);
 }
 
 bool NSFileManager::changeCurrentDirectoryPath(const std::string& path) const
@@ -102,5 +114,5 @@ bool NSFileManager::createFileAtPath(const std::string& path) const
 {
     if (createNew(path)) return true;
     const bool isThere = errno == EEXIST;
-    return leadsNowhere(path) ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
+    return isDanglingSymlink(path) ? unlink(path.c_str()) == 0 && createNew(path) : isThere;
 }

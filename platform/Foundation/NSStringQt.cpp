@@ -11,36 +11,43 @@ bool isText(std::string_view bytes)
     return QByteArrayView(bytes.data(), qsizetype(bytes.size())).isValidUtf8();
 }
 
-// Equivalent texts are the same text then.
+// Canonically equivalent texts have the same decomposition.
 QString decomposed(std::string_view text)
 {
     const auto decoded = QString::fromUtf8(text.data(), qsizetype(text.size()));
     return decoded.normalized(QString::NormalizationForm_D);
 }
 
-bool isBoundary(const QString& text, qsizetype position)
+enum class Place { start, end };
+
+bool hasPart(std::string_view text, std::string_view part, Place place)
 {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    finder.setPosition(position);
-    return finder.isAtBoundary();
+    if (!isText(text) || !isText(part))
+        return place == Place::start ? text.starts_with(part) : text.ends_with(part);
+    const QString whole = decomposed(text);
+    const QString wanted = decomposed(part);
+    const qsizetype rest = whole.size() - wanted.size();
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, whole);
+    finder.setPosition(place == Place::start ? wanted.size() : rest);
+    return finder.isAtBoundary()
+        && (place == Place::start ? whole.startsWith(wanted) : whole.endsWith(wanted));
 }
 
 }
 
 bool NSString::hasPrefix(std::string_view text, std::string_view prefix)
 {
-    if (!isText(text) || !isText(prefix)) return text.starts_with(prefix);
-    const QString whole = decomposed(text);
-    const QString start = decomposed(prefix);
-    return whole.startsWith(start) && isBoundary(whole, start.size());
+    return hasPart(text, prefix, Place::start);
 }
 
 bool NSString::hasSuffix(std::string_view text, std::string_view suffix)
 {
-    if (!isText(text) || !isText(suffix)) return text.ends_with(suffix);
-    const QString whole = decomposed(text);
-    const QString end = decomposed(suffix);
-    return whole.endsWith(end) && isBoundary(whole, whole.size() - end.size());
+    return hasPart(text, suffix, Place::end);
+}
+
+std::string NSString::uppercaseString(const std::string& text)
+{
+    return QString::fromStdString(text).toUpper().toStdString();
 }
 
 std::string NSString::stringWithFormat(

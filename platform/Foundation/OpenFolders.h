@@ -7,35 +7,34 @@
 #include <string>
 #include <vector>
 
-// An item, which need not be there: a name in an open folder, which stays the same folder whatever
-// happens to its path meanwhile. The descriptor is someone else's; AT_FDCWD with a path will do.
+// An entry of a folder, existing or not: its name in an open folder, which remains the same folder
+// if its path is renamed or replaced. Does not own the descriptor. AT_FDCWD and a path also work.
 struct Item {
     int folder;
     std::string name;
 };
 
-// Finds items by their paths. The folders on the way to one stay open for the next, which as a rule
-// lies nearby: then the depth of a tree costs nothing. One thread at a time. Throws a
+// Finds items by their paths. Caches the open folders of the last path for the next one, which is
+// usually nearby, so that an item costs the same at any depth. One thread at a time. Throws a
 // std::system_error.
 class OpenFolders {
 public:
-    // How a path is followed: as the system does it; or never out of the folder where it begins,
-    // through no link and into no other volume.
-    enum class Way { anywhere, beneath };
+    // How a path is resolved: by the rules of the system; or never above the root folder, through
+    // no symlink and across no mount point.
+    enum class Scope { anywhere, beneath };
 
-    // Paths begin with `path`, that of `folder`, which ends in "/".
-    OpenFolders(FileDescriptor folder, const std::string& path, Way way);
+    // All paths begin with `path`, the path of `root`, which ends in "/".
+    OpenFolders(FileDescriptor root, const std::string& path, Scope scope);
 
-    // Paths begin and lead anywhere.
+    // Any path is allowed.
     OpenFolders();
 
-    // Where the item at `path` is to be looked for, until the next call; a path that ends in "/" is
-    // that of the folder itself. The folder is -1 where opening one on the way fails with one of
-    // the errors that are expected.
-    Item find(const std::string& path, std::initializer_list<int> expected = {});
+    // Returns the item at `path`, valid until the next call; a path that ends in "/" means the
+    // folder itself. Returns nothing if opening a folder on the path fails with an expected error.
+    std::optional<Item> find(const std::string& path, std::initializer_list<int> expected = {});
 
-    // Of the folder in which all paths begin.
-    int top() const { return m_folders.front().descriptor.number(); }
+    // Returns the descriptor of the root folder.
+    int root() const { return m_folders.front().descriptor.number(); }
 
 private:
     struct Folder {
@@ -43,16 +42,18 @@ private:
         FileDescriptor descriptor;
     };
 
-    const Way m_way;
-    std::vector<Folder> m_folders; // the first always; then each lies in the one before it
+    int deepest() const;
+
+    const Scope m_scope;
+    std::vector<Folder> m_folders; // the root, never closed; then folders along the last path
 };
 
-// For such flags as open() takes. Answers none for an error that is expected.
-FileDescriptor openFolder(const Item& folder, std::uint64_t flags, OpenFolders::Way way,
+// Opens a folder with flags of open(). Returns a closed descriptor for an expected error.
+FileDescriptor openFolder(const Item& folder, std::uint64_t flags, OpenFolders::Scope scope,
     std::initializer_list<int> expected = {});
 
-// The names in a folder, without "." and "..", in the file system's order.
+// Returns the names in a folder, without "." and "..", in the order of the file system.
 std::vector<std::string> namesIn(const Item& folder);
 
-// Where a link leads, as it stands in it; none for what is no link, or not there.
-std::optional<std::string> readLink(const Item& link);
+// Returns the target of a symlink, unchanged; nothing if `item` is not a symlink or does not exist.
+std::optional<std::string> readLink(const Item& item);

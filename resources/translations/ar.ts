@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>تعذّر فتح النافذة بالملحقة «⁦%1⁩»: ثبّتها، أو ألغِ ضبط QT_QPA_PLATFORM.</translation>
+        <source>plugin not found</source>
+        <translation>تعذّر فتح النافذة بملحقة منصّة Qt «⁦%1⁩». ثبّت الملحقة، أو ألغِ ضبط QT_QPA_PLATFORM.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>تعذّر فتح النافذة على شاشة Wayland «⁦%1⁩»: تأكّد من أنّ WAYLAND_DISPLAY يشير إلى مؤلّف شاشة قيد التشغيل.</translation>
+        <source>Wayland display not found</source>
+        <translation>تعذّر فتح النافذة على شاشة Wayland «⁦%1⁩». تأكّد من أنّ WAYLAND_DISPLAY يشير إلى مُركِّب نوافذ (compositor) قيد التشغيل.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>تعذّر فتح النافذة على شاشة Wayland «⁦%1⁩»: ثبّت الحزمة qt6-wayland.</translation>
+        <source>Wayland plugin not found</source>
+        <translation>تعذّر فتح النافذة على شاشة Wayland «⁦%1⁩». ثبّت الحزمة qt6-wayland.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>تعذّر فتح النافذة على الشاشة «⁦%1⁩»: تأكّد من أنّ DISPLAY يشير إلى خادوم X قيد التشغيل.</translation>
+        <source>X display not found</source>
+        <translation>تعذّر فتح النافذة على الشاشة «⁦%1⁩». تأكّد من أنّ DISPLAY يشير إلى خادم X قيد التشغيل.</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>تعذّر فتح النافذة من دون شاشة: شغّل البرنامج في جلسة سطح مكتب، أو اضبط DISPLAY.</translation>
+        <source>no display</source>
+        <translation>تعذّر فتح النافذة من دون شاشة. شغّل المثبّت في جلسة سطح مكتب، أو اضبط DISPLAY أو WAYLAND_DISPLAY.</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>تعذّرت متابعة العملية لأنّ الذاكرة نفدت.</translation>
+        <source>out of memory</source>
+        <translation>تعذّرت متابعة العملية. الذاكرة غير كافية.</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>تعذّرت متابعة العملية. السبب: ⁨%1⁩</translation>
+        <source>internal error</source>
+        <translation>تعذّرت متابعة العملية. خطأ داخلي: ⁨%1⁩</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>تعذّر تغيير «⁦%1⁩» لأنّه وصلة إلى «⁦%2⁩».</translation>
+        <source>incomplete, install again</source>
+        <translation>نسخة quillbarn في «⁦%1⁩» غير مكتملة. ثبّت quillbarn مرة أخرى.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>تعذّر تثبيت «⁦%1⁩» لأنّه هو نفسه «⁦%2⁩» الذي سيُفرَّغ أولًا.</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>نسخة quillbarn في «⁦%1⁩» غير مكتملة. ألغِ تثبيت quillbarn مرة أخرى.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>تعذّر تغيير «⁦%1⁩» لأنّ الوصلة «⁦%2⁩» تؤدي إلى خارجه، إلى «⁦%3⁩».</translation>
+        <source>maybe incomplete</source>
+        <translation>قد تكون نسخة quillbarn في «⁦%1⁩» غير مكتملة. شغّل المثبّت مرة أخرى.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>تعذّر تثبيت «⁦%1⁩» لأنّ مكانه تشغله وصلة لا تؤدي إلى شيء. أزِل التثبيت أولًا، فتُزال الوصلة أيضًا.</translation>
+        <source>symlink loop</source>
+        <translation>تعذّر اتّباع الوصلة الرمزية «⁦%1⁩». الهدف «⁦%2/⁩» مجلد يحتوي على الوصلة الرمزية (حلقة).</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>تعذّر اتّباع الوصلة «⁦%1⁩» لأنّها تعود إلى «⁦%2/⁩»، وهو مجلد يحتويها.</translation>
+        <source>too many symlinks</source>
+        <translation>تعذّر اتّباع الوصلة الرمزية «⁦%1⁩». عدد كبير جدًا من الوصلات الرمزية يشير إلى المجلد «⁦%2/⁩».</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>تعذّر بدء العمل: %1 (⁨%2⁩).</translation>
+        <source>source is the installed folder</source>
+        <translation>تعذّر تثبيت المجلد «⁦%1⁩». المجلد هو نفسه المجلد المثبَّت «⁦%2⁩» الذي يُفرَّغ قبل النسخ. ثبّت من مجلد آخر.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>تعذّر فتح المجلد «⁦%1⁩» لأنّ برنامجًا آخر يُبقيه مقفلًا.</translation>
+        <source>application is a symlink</source>
+        <translation>تعذّر تغيير التطبيق «⁦%1⁩». التطبيق وصلة رمزية إلى «⁦%2⁩». احذف الوصلة الرمزية، ثم شغّل المثبّت مرة أخرى.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>تعذّر فتح المجلد «⁦%1⁩»: %2 (⁨%3⁩).</translation>
+        <source>symlink points outside</source>
+        <translation>تعذّر تغيير التطبيق «⁦%1⁩». الوصلة الرمزية «⁦%2⁩» في التطبيق تشير إلى خارجه، إلى «⁦%3⁩». احذف الوصلة الرمزية، ثم شغّل المثبّت مرة أخرى.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>تعذّر إنشاء المجلد «⁦%1⁩»: %2 (⁨%3⁩).</translation>
+        <source>dangling symlink exists</source>
+        <translation>تعذّر تثبيت «⁦%1⁩». توجد وصلة رمزية معطوبة بالاسم نفسه. ألغِ تثبيت quillbarn، ثم ثبّته مرة أخرى.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>تعذّر نسخ «⁦%1⁩» إلى «⁦%2⁩» لأنّه جهاز أو أنبوب أو مقبس.</translation>
+        <source>names are equal</source>
+        <translation>تعذّر تثبيت «⁦%1⁩». لا تميّز وحدة التخزين بين هذا الاسم و«⁦%2⁩».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>تعذّر نسخ «⁦%1⁩» إلى «⁦%2⁩»: %3 (⁨%4⁩).</translation>
+        <source>operation not started</source>
+        <translation>تعذّر بدء العملية.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>تعذّرت إزالة «⁦%1⁩»: %2 (⁨%3⁩).</translation>
+        <source>folder is locked</source>
+        <translation>تعذّر قفل المجلد «⁦%1⁩». برنامج آخر يقفل المجلد. انتظر حتى ينتهي البرنامج الآخر، ثم شغّل المثبّت مرة أخرى.</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>تعذّرت كتابة التغييرات في «⁦%1⁩» على القرص: %2 (⁨%3⁩).</translation>
+        <source>folder not opened</source>
+        <translation>تعذّر فتح المجلد «⁦%1⁩».</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 لا تحقّ الكتابة في «⁦%2⁩» إلا لـ«root»: شغّل المثبّت بحساب يحقّ له ذلك.</translation>
+        <source>folder not created</source>
+        <translation>تعذّر إنشاء المجلد «⁦%1⁩».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 لا تحقّ الكتابة في «⁦%2⁩» إلا لـ«root» وللمجموعة «⁦%4⁩»: شغّل المثبّت بحساب يحقّ له ذلك.</translation>
+        <source>item not copied</source>
+        <translation>تعذّر نسخ «⁦%1⁩» إلى «⁦%2⁩».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 لا تحقّ الكتابة في «⁦%2⁩» إلا لـ«root» ولـ«⁦%3⁩»: شغّل المثبّت بحساب يحقّ له ذلك.</translation>
+        <source>item not removed</source>
+        <translation>تعذّر حذف «⁦%1⁩».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 لا تحقّ الكتابة في «⁦%2⁩» إلا لـ«root» ولـ«⁦%3⁩» وللمجموعة «⁦%4⁩»: شغّل المثبّت بحساب يحقّ له ذلك.</translation>
+        <source>changes not written</source>
+        <translation>تعذّرت كتابة التغييرات في «⁦%1⁩» على القرص.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>تعذّرت قراءة «⁦%1⁩»: %2 (⁨%3⁩).</translation>
+        <source>root can write</source>
+        <translation>تقتصر إمكانية الكتابة في «⁦%1⁩» على المستخدم «⁦root⁩».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>تعذّر جلب معلومات «⁦%1⁩»: %2 (⁨%3⁩).</translation>
+        <source>group can write</source>
+        <translation>تقتصر إمكانية الكتابة في «⁦%1⁩» على المستخدم «⁦root⁩» وأعضاء المجموعة «⁦%3⁩».</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>تقتصر إمكانية الكتابة في «⁦%1⁩» على المستخدمَين «⁦root⁩» و«⁦%2⁩».</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>تقتصر إمكانية الكتابة في «⁦%1⁩» على المستخدمَين «⁦root⁩» و«⁦%2⁩» وأعضاء المجموعة «⁦%3⁩».</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>شغّل المثبّت بحساب مستخدم لديه إذن الكتابة.</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>تعذّر نسخ «⁦%1⁩». المصدر جهاز أو أنبوب أو مقبس.</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>تعذّرت قراءة «⁦%1⁩».</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>تعذّر الحصول على معلومات عن «⁦%1⁩».</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>تعذّرت قراءة المجلد «⁦%1⁩».</translation>
     </message>
 </context>
 <context>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>ليس لديك إذن بالوصول إليه</translation>
+        <source>EACCES</source>
+        <translation>ليس لديك الإذن اللازم (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>إنّه قيد الاستخدام، أو ثمة قرص آخر موصول هناك</translation>
+        <source>EAGAIN</source>
+        <translation>أحد موارد النظام غير متاح مؤقتًا (⁦%1⁩). حاول مرة أخرى لاحقًا.</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>نفدت حصتك من مساحة القرص</translation>
+        <source>EBUSY</source>
+        <translation>الملف أو المجلد قيد الاستخدام، أو هو نقطة وصل (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>يوجد عنصر بالاسم نفسه</translation>
+        <source>EDQUOT</source>
+        <translation>نفدت الحصة المخصّصة من مساحة القرص (⁦%1⁩). حرّر بعض المساحة.</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>حجمه أكبر من المسموح به للملفات</translation>
+        <source>EEXIST</source>
+        <translation>يوجد عنصر بالاسم نفسه (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>أبلغ القرص عن عطل</translation>
+        <source>EFBIG</source>
+        <translation>الملف أكبر مما تسمح به وحدة التخزين أو حدّ حجم الملفات (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>إنّه مجلد</translation>
+        <source>EIO</source>
+        <translation>حدث خطأ في القراءة أو الكتابة (⁦%1⁩). افحص القرص.</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>في مساره وصلة</translation>
+        <source>EISDIR</source>
+        <translation>يوجد مجلد في مكان يلزم فيه ملف (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>اسمه أو مساره طويل جدًا</translation>
+        <source>ELOOP</source>
+        <translation>في المسار حلقة من الوصلات الرمزية، أو وصلة رمزية لا يتبعها المثبّت (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>انتهت بياناته قبل أوانها، إمّا لأنّها تغيّرت في الأثناء أو لأنّ القرص أبلغ عن عطل</translation>
+        <source>EMFILE</source>
+        <translation>فتح المثبّت ملفات أكثر من المسموح به (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>إنّه غير موجود</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>الاسم أو المسار طويل جدًا (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>نفدت الذاكرة</translation>
+        <source>ENFILE</source>
+        <translation>عدد الملفات المفتوحة في النظام أكبر من المسموح به (⁦%1⁩). أغلق برامج أخرى.</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>لم تبقَ مساحة فارغة على القرص</translation>
+        <source>ENODATA</source>
+        <translation>تغيّر الملف أثناء النسخ، أو في القرص خطأ (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>يتطلّب ذلك Linux 5.6 أو أحدث، من دون صندوق رمل يخفي openat2</translation>
+        <source>ENOENT</source>
+        <translation>العنصر أو أحد مجلدات المسار غير موجود (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>جزء من مساره ليس مجلدًا</translation>
+        <source>ENOMEM</source>
+        <translation>الذاكرة غير كافية (⁦%1⁩). أغلق برامج أخرى.</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>إنّه ليس فارغًا</translation>
+        <source>ENOSPC</source>
+        <translation>لم تبقَ في وحدة التخزين مساحة للبيانات أو لمزيد من الملفات (⁦%1⁩). حرّر بعض المساحة.</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>إنّه محميّ أو مجلده محميّ، بمنع التغيير أو بقصره على الإلحاق أو بالبِت اللاصق</translation>
+        <source>ENOSYS</source>
+        <translation>لا يوفّر النظام أو البيئة المعزولة (sandbox) وظيفة مطلوبة (⁦%1⁩). يلزم Linux 5.6 أو أحدث واستدعاء النظام «⁦openat2⁩».</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>القرص للقراءة فقط</translation>
+        <source>ENOTDIR</source>
+        <translation>العنصر أو جزء من المسار ليس مجلدًا (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>إنّه على قرص آخر موصول هناك</translation>
+        <source>ENOTEMPTY</source>
+        <translation>المجلد ليس فارغًا (⁦%1⁩).</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>رفض النظام ذلك</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>لا تدعم وحدة التخزين هذه العملية (⁦%1⁩).</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>لا يسمح النظام بهذه العملية (⁦%1⁩). الأسباب المحتملة: عنصر أو مجلد محميّ (بمنع التغيير، أو بقصر الكتابة على الإلحاق، أو بالبت اللاصق)، أو وحدة تخزين لا تدعم الوصلات الرمزية أو الصلبة، أو بيئة معزولة (sandbox).</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>وحدة التخزين للقراءة فقط (⁦%1⁩).</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>الملف برنامج قيد التشغيل أو مساحة تبديل مستخدمة (⁦%1⁩). أغلق البرنامج.</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>نظام الملفات في وحدة التخزين تالف ويحتاج إلى إصلاح (⁦%1⁩).</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>في المسار نقطة وصل (⁦%1⁩). لا يتجاوز المثبّت حدود نظام الملفات.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>أبلغ النظام عن الخطأ ⁦%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -228,24 +284,28 @@
         <translation>تعذّر تثبيت quillbarn</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>تجري إزالة quillbarn</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>يجري إلغاء تثبيت quillbarn</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>تعذّرت إزالة quillbarn</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>تعذّر إلغاء تثبيت quillbarn</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
         <translation>يجري إخراج صورة القرص</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>يجري إخراج صورة القرص: في انتظار تحرّر القرص</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>يجري إخراج صورة القرص: محاولة جديدة</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
         <translation>تعذّر إخراج صورة القرص</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>مثبّت quillbarn: خيارات غير صالحة</translation>
     </message>
 </context>
 </TS>

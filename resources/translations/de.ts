@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>Das Fenster kann mit dem Plugin „%1“ nicht geöffnet werden: Installieren Sie das Plugin oder löschen Sie die Variable QT_QPA_PLATFORM.</translation>
+        <source>plugin not found</source>
+        <translation>Das Fenster konnte mit dem Qt-Plattform-Plugin „%1“ nicht geöffnet werden. Installieren Sie das Plugin oder löschen Sie die Variable QT_QPA_PLATFORM.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>Das Fenster kann auf der Wayland-Anzeige „%1“ nicht geöffnet werden: Prüfen Sie, ob WAYLAND_DISPLAY einen laufenden Compositor nennt.</translation>
+        <source>Wayland display not found</source>
+        <translation>Das Fenster konnte auf der Wayland-Anzeige „%1“ nicht geöffnet werden. Prüfen Sie, ob WAYLAND_DISPLAY auf einen laufenden Compositor verweist.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>Das Fenster kann auf der Wayland-Anzeige „%1“ nicht geöffnet werden: Installieren Sie das Paket qt6-wayland.</translation>
+        <source>Wayland plugin not found</source>
+        <translation>Das Fenster konnte auf der Wayland-Anzeige „%1“ nicht geöffnet werden. Installieren Sie das Paket qt6-wayland.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>Das Fenster kann auf der Anzeige „%1“ nicht geöffnet werden: Prüfen Sie, ob DISPLAY einen laufenden X-Server nennt.</translation>
+        <source>X display not found</source>
+        <translation>Das Fenster konnte auf der Anzeige „%1“ nicht geöffnet werden. Prüfen Sie, ob DISPLAY auf einen laufenden X-Server verweist.</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>Das Fenster kann ohne Anzeige nicht geöffnet werden: Starten Sie das Programm in einer Desktop-Sitzung oder setzen Sie die Variable DISPLAY.</translation>
+        <source>no display</source>
+        <translation>Das Fenster konnte ohne Anzeige nicht geöffnet werden. Starten Sie das Installationsprogramm in einer Desktop-Sitzung oder setzen Sie DISPLAY oder WAYLAND_DISPLAY.</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>Der Vorgang konnte nicht fortgesetzt werden, weil kein Arbeitsspeicher mehr frei ist.</translation>
+        <source>out of memory</source>
+        <translation>Der Vorgang konnte nicht fortgesetzt werden. Es ist nicht genügend Arbeitsspeicher verfügbar.</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>Der Vorgang konnte nicht fortgesetzt werden. Ursache: %1</translation>
+        <source>internal error</source>
+        <translation>Der Vorgang konnte nicht fortgesetzt werden. Interner Fehler: %1</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>„%1“ konnte nicht geändert werden, weil es eine Verknüpfung mit „%2“ ist.</translation>
+        <source>incomplete, install again</source>
+        <translation>Die Kopie von quillbarn in „%1“ ist unvollständig. Installieren Sie quillbarn erneut.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>„%1“ konnte nicht installiert werden, weil es mit „%2“ identisch ist und zuvor geleert würde.</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>Die Kopie von quillbarn in „%1“ ist unvollständig. Deinstallieren Sie quillbarn erneut.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>„%1“ konnte nicht geändert werden, weil die enthaltene Verknüpfung „%2“ nach außen führt, zu „%3“.</translation>
+        <source>maybe incomplete</source>
+        <translation>Die Kopie von quillbarn in „%1“ ist möglicherweise unvollständig. Starten Sie das Installationsprogramm erneut.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>„%1“ konnte nicht installiert werden, weil an dieser Stelle eine Verknüpfung liegt, die ins Leere führt. Deinstallieren Sie zuerst; dabei wird auch die Verknüpfung entfernt.</translation>
+        <source>symlink loop</source>
+        <translation>Der symbolischen Verknüpfung „%1“ konnte nicht gefolgt werden. Das Ziel „%2/“ ist ein Ordner, der die Verknüpfung enthält (Endlosschleife).</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>Der Verknüpfung „%1“ konnte nicht gefolgt werden, weil sie zu „%2/“ zurückführt, einem Ordner, in dem sie selbst liegt.</translation>
+        <source>too many symlinks</source>
+        <translation>Der symbolischen Verknüpfung „%1“ konnte nicht gefolgt werden. Zu viele symbolische Verknüpfungen führen zum Ordner „%2/“.</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>Der Vorgang konnte nicht gestartet werden: %1 (%2).</translation>
+        <source>source is the installed folder</source>
+        <translation>Der Ordner „%1“ konnte nicht installiert werden. Der Ordner ist identisch mit dem installierten Ordner „%2“, der vor dem Kopieren geleert wird. Installieren Sie quillbarn aus einem anderen Ordner.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>Der Ordner „%1“ konnte nicht geöffnet werden, weil ein anderes Programm ihn gesperrt hält.</translation>
+        <source>application is a symlink</source>
+        <translation>Die Anwendung „%1“ konnte nicht geändert werden. Die Anwendung ist eine symbolische Verknüpfung zu „%2“. Entfernen Sie die Verknüpfung und starten Sie das Installationsprogramm erneut.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>Der Ordner „%1“ konnte nicht geöffnet werden: %2 (%3).</translation>
+        <source>symlink points outside</source>
+        <translation>Die Anwendung „%1“ konnte nicht geändert werden. Die symbolische Verknüpfung „%2“ in der Anwendung verweist auf „%3“ außerhalb der Anwendung. Entfernen Sie die Verknüpfung und starten Sie das Installationsprogramm erneut.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>Der Ordner „%1“ konnte nicht angelegt werden: %2 (%3).</translation>
+        <source>dangling symlink exists</source>
+        <translation>„%1“ konnte nicht installiert werden. Eine defekte symbolische Verknüpfung mit demselben Namen existiert bereits. Deinstallieren Sie quillbarn und installieren Sie quillbarn dann erneut.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>„%1“ konnte nicht nach „%2“ kopiert werden, weil es ein Gerät, eine Pipe oder ein Socket ist.</translation>
+        <source>names are equal</source>
+        <translation>„%1“ konnte nicht installiert werden. Auf dem Datenträger gelten dieser Name und „%2“ als identisch.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>„%1“ konnte nicht nach „%2“ kopiert werden: %3 (%4).</translation>
+        <source>operation not started</source>
+        <translation>Der Vorgang konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>„%1“ konnte nicht entfernt werden: %2 (%3).</translation>
+        <source>folder is locked</source>
+        <translation>Der Ordner „%1“ konnte nicht gesperrt werden. Ein anderes Programm hat den Ordner gesperrt. Warten Sie, bis das andere Programm beendet ist, und starten Sie dann das Installationsprogramm erneut.</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>Die Änderungen in „%1“ konnten nicht auf den Datenträger geschrieben werden: %2 (%3).</translation>
+        <source>folder not opened</source>
+        <translation>Der Ordner „%1“ konnte nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Nur „root“ darf in „%2“ schreiben: Starten Sie das Installationsprogramm mit einem Benutzerkonto, das dazu berechtigt ist.</translation>
+        <source>folder not created</source>
+        <translation>Der Ordner „%1“ konnte nicht erstellt werden.</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Nur „root“ und die Gruppe „%4“ dürfen in „%2“ schreiben: Starten Sie das Installationsprogramm mit einem Benutzerkonto, das dazu berechtigt ist.</translation>
+        <source>item not copied</source>
+        <translation>„%1“ konnte nicht nach „%2“ kopiert werden.</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Nur „root“ und „%3“ dürfen in „%2“ schreiben: Starten Sie das Installationsprogramm mit einem Benutzerkonto, das dazu berechtigt ist.</translation>
+        <source>item not removed</source>
+        <translation>„%1“ konnte nicht entfernt werden.</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Nur „root“, „%3“ und die Gruppe „%4“ dürfen in „%2“ schreiben: Starten Sie das Installationsprogramm mit einem Benutzerkonto, das dazu berechtigt ist.</translation>
+        <source>changes not written</source>
+        <translation>Die Änderungen in „%1“ konnten nicht auf den Datenträger geschrieben werden.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>„%1“ konnte nicht gelesen werden: %2 (%3).</translation>
+        <source>root can write</source>
+        <translation>Nur „root“ kann in „%1“ schreiben.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>Die Informationen zu „%1“ konnten nicht abgerufen werden: %2 (%3).</translation>
+        <source>group can write</source>
+        <translation>Nur „root“ und Mitglieder der Gruppe „%3“ können in „%1“ schreiben.</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>Nur „root“ und „%2“ können in „%1“ schreiben.</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>Nur „root“, „%2“ und Mitglieder der Gruppe „%3“ können in „%1“ schreiben.</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>Starten Sie das Installationsprogramm als Benutzer mit Schreibrechten.</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>„%1“ konnte nicht kopiert werden. Die Quelle ist ein Gerät, eine Pipe oder ein Socket.</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>„%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>Die Eigenschaften von „%1“ konnten nicht ermittelt werden.</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>Der Ordner „%1“ konnte nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>Sie haben keine Zugriffsberechtigung</translation>
+        <source>EACCES</source>
+        <translation>Sie besitzen nicht die nötigen Zugriffsrechte (%1).</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>Das Objekt wird gerade verwendet oder ein anderer Datenträger ist dort eingehängt</translation>
+        <source>EAGAIN</source>
+        <translation>Eine Systemressource ist vorübergehend nicht verfügbar (%1). Versuchen Sie es später erneut.</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>Ihr Anteil am Speicherplatz des Datenträgers ist aufgebraucht</translation>
+        <source>EBUSY</source>
+        <translation>Die Datei oder der Ordner wird verwendet oder ist ein Einhängepunkt (%1).</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>Ein Objekt mit diesem Namen existiert bereits</translation>
+        <source>EDQUOT</source>
+        <translation>Das Speicherplatzkontingent (Quota) ist aufgebraucht (%1). Geben Sie Speicherplatz frei.</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>Die Datei überschreitet die zulässige Größe</translation>
+        <source>EEXIST</source>
+        <translation>Ein Objekt mit demselben Namen existiert bereits (%1).</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>Der Datenträger hat einen Fehler gemeldet</translation>
+        <source>EFBIG</source>
+        <translation>Die Datei ist zu groß für den Datenträger oder überschreitet die zulässige Dateigröße (%1).</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>Es handelt sich um einen Ordner</translation>
+        <source>EIO</source>
+        <translation>Beim Lesen oder Schreiben ist ein Fehler aufgetreten (%1). Prüfen Sie den Datenträger.</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>Auf dem Pfad liegt eine Verknüpfung</translation>
+        <source>EISDIR</source>
+        <translation>Anstelle einer Datei wurde ein Ordner gefunden (%1).</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>Der Name oder der Pfad ist zu lang</translation>
+        <source>ELOOP</source>
+        <translation>Der Pfad enthält eine Schleife aus symbolischen Verknüpfungen oder eine symbolische Verknüpfung, der das Installationsprogramm nicht folgt (%1).</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>Die Daten endeten vorzeitig, weil sie währenddessen geändert wurden oder der Datenträger einen Fehler gemeldet hat</translation>
+        <source>EMFILE</source>
+        <translation>Das Installationsprogramm hat zu viele Dateien geöffnet (%1).</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>Das Objekt existiert nicht</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>Ein Name oder ein Pfad ist zu lang (%1).</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>Es ist kein Arbeitsspeicher mehr frei</translation>
+        <source>ENFILE</source>
+        <translation>Auf dem System sind zu viele Dateien geöffnet (%1). Beenden Sie andere Programme.</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>Auf dem Datenträger ist kein Speicherplatz mehr frei</translation>
+        <source>ENODATA</source>
+        <translation>Die Datei wurde während des Kopierens geändert oder der Datenträger ist fehlerhaft (%1).</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>Dazu wird Linux 5.6 oder neuer benötigt und keine Sandbox, die openat2 verbirgt</translation>
+        <source>ENOENT</source>
+        <translation>Das Objekt oder ein Ordner im Pfad existiert nicht (%1).</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>Ein Teil des Pfades ist kein Ordner</translation>
+        <source>ENOMEM</source>
+        <translation>Es ist nicht genügend Arbeitsspeicher verfügbar (%1). Beenden Sie andere Programme.</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>Der Ordner ist nicht leer</translation>
+        <source>ENOSPC</source>
+        <translation>Auf dem Datenträger ist kein Platz für weitere Daten oder Dateien (%1). Geben Sie Speicherplatz frei.</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>Das Objekt oder sein Ordner ist geschützt – unveränderlich, nur zum Anhängen oder mit Sticky-Bit</translation>
+        <source>ENOSYS</source>
+        <translation>Das System oder eine Sandbox stellt eine benötigte Funktion nicht bereit (%1). Erforderlich sind Linux 5.6 oder neuer und der Systemaufruf „openat2“.</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>Der Datenträger ist schreibgeschützt</translation>
+        <source>ENOTDIR</source>
+        <translation>Das Objekt oder ein Teil des Pfads ist kein Ordner (%1).</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>Das Objekt liegt auf einem anderen Datenträger, der dort eingehängt ist</translation>
+        <source>ENOTEMPTY</source>
+        <translation>Der Ordner ist nicht leer (%1).</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>Das System hat den Vorgang abgelehnt</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>Der Datenträger unterstützt den Vorgang nicht (%1).</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>Das System lässt den Vorgang nicht zu (%1). Mögliche Ursachen: ein geschütztes Objekt oder ein geschützter Ordner (unveränderlich, nur Anhängen oder Sticky-Bit), ein Datenträger ohne Unterstützung für symbolische oder harte Verknüpfungen oder eine Sandbox.</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>Der Datenträger ist schreibgeschützt (%1).</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>Die Datei wird als laufendes Programm oder als Auslagerungsspeicher verwendet (%1). Beenden Sie das Programm.</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>Das Dateisystem auf dem Datenträger ist beschädigt und muss repariert werden (%1).</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>Im Pfad liegt ein Einhängepunkt (%1). Das Installationsprogramm überschreitet keine Dateisystemgrenzen.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>Das System hat den Fehler %1 gemeldet.</translation>
     </message>
 </context>
 <context>
@@ -228,24 +284,28 @@
         <translation>quillbarn konnte nicht installiert werden</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>quillbarn wird entfernt</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>quillbarn wird deinstalliert</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>quillbarn konnte nicht entfernt werden</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>quillbarn konnte nicht deinstalliert werden</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
-        <translation>Datenträgerabbild wird ausgeworfen</translation>
+        <translation>Laufwerksabbild wird ausgeworfen</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>Auswerfen: Warten, bis der Datenträger frei ist</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>Laufwerksabbild wird ausgeworfen: neuer Versuch</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
-        <translation>Das Datenträgerabbild konnte nicht ausgeworfen werden</translation>
+        <translation>Laufwerksabbild konnte nicht ausgeworfen werden</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>quillbarn-Installationsprogramm: ungültige Optionen</translation>
     </message>
 </context>
 </TS>

@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>No se puede abrir la ventana con el complemento «%1»: instálelo o elimine la variable QT_QPA_PLATFORM.</translation>
+        <source>plugin not found</source>
+        <translation>No se pudo abrir la ventana con el complemento de plataforma de Qt «%1». Instale el complemento o elimine la variable QT_QPA_PLATFORM.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>No se puede abrir la ventana en la pantalla de Wayland «%1»: compruebe que WAYLAND_DISPLAY indica un compositor en ejecución.</translation>
+        <source>Wayland display not found</source>
+        <translation>No se pudo abrir la ventana en la pantalla de Wayland «%1». Compruebe que WAYLAND_DISPLAY indica un compositor en ejecución.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>No se puede abrir la ventana en la pantalla de Wayland «%1»: instale el paquete qt6-wayland.</translation>
+        <source>Wayland plugin not found</source>
+        <translation>No se pudo abrir la ventana en la pantalla de Wayland «%1». Instale el paquete qt6-wayland.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>No se puede abrir la ventana en la pantalla «%1»: compruebe que DISPLAY indica un servidor X en ejecución.</translation>
+        <source>X display not found</source>
+        <translation>No se pudo abrir la ventana en la pantalla «%1». Compruebe que DISPLAY indica un servidor X en ejecución.</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>No se puede abrir la ventana sin una pantalla: inicie el programa en una sesión de escritorio o defina la variable DISPLAY.</translation>
+        <source>no display</source>
+        <translation>No se pudo abrir la ventana sin una pantalla. Inicie el instalador en una sesión de escritorio, o defina DISPLAY o WAYLAND_DISPLAY.</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>No se pudo continuar porque se agotó la memoria.</translation>
+        <source>out of memory</source>
+        <translation>No se pudo continuar la operación. No hay memoria suficiente.</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>No se pudo continuar. Causa: %1</translation>
+        <source>internal error</source>
+        <translation>No se pudo continuar la operación. Error interno: %1</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>No se pudo modificar «%1» porque es un enlace a «%2».</translation>
+        <source>incomplete, install again</source>
+        <translation>La copia de quillbarn en «%1» está incompleta. Vuelva a instalar quillbarn.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>No se pudo instalar «%1» porque es el mismo elemento que «%2», que se vaciaría antes.</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>La copia de quillbarn en «%1» está incompleta. Vuelva a desinstalar quillbarn.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>No se pudo modificar «%1» porque el enlace «%2» lleva fuera, a «%3».</translation>
+        <source>maybe incomplete</source>
+        <translation>Es posible que la copia de quillbarn en «%1» esté incompleta. Vuelva a iniciar el instalador.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>No se pudo instalar «%1» porque ocupa su lugar un enlace que no lleva a ninguna parte. Desinstale primero, lo que también elimina el enlace.</translation>
+        <source>symlink loop</source>
+        <translation>No se pudo seguir el enlace simbólico «%1». El destino «%2/» es una carpeta que contiene el enlace simbólico (bucle).</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>No se pudo seguir el enlace «%1» porque lleva de vuelta a «%2/», una carpeta que lo contiene.</translation>
+        <source>too many symlinks</source>
+        <translation>No se pudo seguir el enlace simbólico «%1». Demasiados enlaces simbólicos llevan a la carpeta «%2/».</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>No se pudo iniciar el trabajo: %1 (%2).</translation>
+        <source>source is the installed folder</source>
+        <translation>No se pudo instalar la carpeta «%1». La carpeta es la misma que la carpeta instalada «%2», que se vacía antes de copiar los archivos. Instale desde otra carpeta.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>No se pudo abrir la carpeta «%1» porque otro programa la mantiene bloqueada.</translation>
+        <source>application is a symlink</source>
+        <translation>No se pudo modificar la aplicación «%1». La aplicación es un enlace simbólico a «%2». Elimine el enlace simbólico y vuelva a iniciar el instalador.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>No se pudo abrir la carpeta «%1»: %2 (%3).</translation>
+        <source>symlink points outside</source>
+        <translation>No se pudo modificar la aplicación «%1». El enlace simbólico «%2» de la aplicación apunta fuera de ella, a «%3». Elimine el enlace simbólico y vuelva a iniciar el instalador.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>No se pudo crear la carpeta «%1»: %2 (%3).</translation>
+        <source>dangling symlink exists</source>
+        <translation>No se pudo instalar «%1». Ya existe un enlace simbólico roto con el mismo nombre. Desinstale quillbarn y después vuelva a instalar quillbarn.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>No se pudo copiar «%1» a «%2» porque es un dispositivo, una tubería o un «socket».</translation>
+        <source>names are equal</source>
+        <translation>No se pudo instalar «%1». El volumen no distingue este nombre del nombre «%2».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>No se pudo copiar «%1» a «%2»: %3 (%4).</translation>
+        <source>operation not started</source>
+        <translation>No se pudo iniciar la operación.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>No se pudo eliminar «%1»: %2 (%3).</translation>
+        <source>folder is locked</source>
+        <translation>No se pudo bloquear la carpeta «%1». Otro programa ha bloqueado la carpeta. Espere a que termine el otro programa y vuelva a iniciar el instalador.</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>No se pudieron escribir en el disco los cambios hechos en «%1»: %2 (%3).</translation>
+        <source>folder not opened</source>
+        <translation>No se pudo abrir la carpeta «%1».</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Solo «root» puede escribir en «%2»: inicie el instalador con una cuenta que pueda hacerlo.</translation>
+        <source>folder not created</source>
+        <translation>No se pudo crear la carpeta «%1».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Solo «root» y el grupo «%4» pueden escribir en «%2»: inicie el instalador con una cuenta que pueda hacerlo.</translation>
+        <source>item not copied</source>
+        <translation>No se pudo copiar «%1» a «%2».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Solo «root» y «%3» pueden escribir en «%2»: inicie el instalador con una cuenta que pueda hacerlo.</translation>
+        <source>item not removed</source>
+        <translation>No se pudo eliminar «%1».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Solo «root», «%3» y el grupo «%4» pueden escribir en «%2»: inicie el instalador con una cuenta que pueda hacerlo.</translation>
+        <source>changes not written</source>
+        <translation>No se pudieron escribir en el disco los cambios de «%1».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>No se pudo leer «%1»: %2 (%3).</translation>
+        <source>root can write</source>
+        <translation>Solo «root» puede escribir en «%1».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>No se pudo obtener información sobre «%1»: %2 (%3).</translation>
+        <source>group can write</source>
+        <translation>Solo «root» y los miembros del grupo «%3» pueden escribir en «%1».</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>Solo «root» y «%2» pueden escribir en «%1».</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>Solo «root», «%2» y los miembros del grupo «%3» pueden escribir en «%1».</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>Inicie el instalador con una cuenta que tenga permiso de escritura.</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>No se pudo copiar «%1». El origen es un dispositivo, una tubería o un «socket».</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>No se pudo leer «%1».</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>No se pudo obtener información sobre «%1».</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>No se pudo leer la carpeta «%1».</translation>
     </message>
 </context>
 <context>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>no tiene permiso de acceso</translation>
+        <source>EACCES</source>
+        <translation>No tiene el permiso necesario (%1).</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>el elemento está en uso o hay otro volumen montado ahí</translation>
+        <source>EAGAIN</source>
+        <translation>Un recurso del sistema no está disponible temporalmente (%1). Inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>se agotó su parte del espacio del volumen</translation>
+        <source>EBUSY</source>
+        <translation>El archivo o la carpeta se está usando o es un punto de montaje (%1).</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>ya existe un elemento con el mismo nombre</translation>
+        <source>EDQUOT</source>
+        <translation>La cuota de disco está agotada (%1). Libere espacio.</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>el archivo supera el tamaño permitido</translation>
+        <source>EEXIST</source>
+        <translation>Ya existe un elemento con el mismo nombre (%1).</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>el disco informó de un error</translation>
+        <source>EFBIG</source>
+        <translation>El archivo es demasiado grande para el volumen o para el límite de tamaño de archivo (%1).</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>es una carpeta</translation>
+        <source>EIO</source>
+        <translation>Se produjo un error de lectura o escritura (%1). Compruebe el disco.</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>hay un enlace en su ruta</translation>
+        <source>EISDIR</source>
+        <translation>Hay una carpeta en el lugar de un archivo (%1).</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>su nombre o su ruta es demasiado largo</translation>
+        <source>ELOOP</source>
+        <translation>La ruta contiene un bucle de enlaces simbólicos o un enlace simbólico que el instalador no sigue (%1).</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>los datos terminaron antes de tiempo porque se modificaron entretanto o porque el disco informó de un error</translation>
+        <source>EMFILE</source>
+        <translation>El instalador tiene demasiados archivos abiertos (%1).</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>el elemento no existe</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>Un nombre o una ruta supera la longitud permitida (%1).</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>se agotó la memoria</translation>
+        <source>ENFILE</source>
+        <translation>El sistema tiene demasiados archivos abiertos (%1). Cierre otros programas.</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>no queda espacio en el volumen</translation>
+        <source>ENODATA</source>
+        <translation>El archivo cambió durante la copia o el disco tiene un error (%1).</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>se necesita Linux 5.6 o posterior y ningún entorno aislado que oculte openat2</translation>
+        <source>ENOENT</source>
+        <translation>El elemento, o una carpeta de la ruta, no existe (%1).</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>una parte de su ruta no es una carpeta</translation>
+        <source>ENOMEM</source>
+        <translation>No hay memoria suficiente (%1). Cierre otros programas.</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>la carpeta no está vacía</translation>
+        <source>ENOSPC</source>
+        <translation>No queda espacio en el volumen para datos o para más archivos (%1). Libere espacio.</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>el elemento o su carpeta está protegido —inmutable, solo para añadir o con el bit «sticky»—</translation>
+        <source>ENOSYS</source>
+        <translation>El sistema o un entorno aislado no proporciona una función necesaria (%1). Se necesitan Linux 5.6 o posterior y la llamada al sistema «openat2».</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>el volumen es de solo lectura</translation>
+        <source>ENOTDIR</source>
+        <translation>El elemento, o una parte de la ruta, no es una carpeta (%1).</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>el elemento está en otro volumen, montado ahí</translation>
+        <source>ENOTEMPTY</source>
+        <translation>La carpeta no está vacía (%1).</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>el sistema lo rechazó</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>El volumen no admite la operación (%1).</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>El sistema no permite la operación (%1). Causas posibles: un elemento o una carpeta con protección (inmutable, solo anexar o bit «sticky»), un volumen que no admite enlaces simbólicos o enlaces duros, o un entorno aislado.</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>El volumen es de solo lectura (%1).</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>El archivo se está usando como programa en ejecución o como espacio de intercambio (%1). Cierre el programa.</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>El sistema de archivos del volumen está dañado y debe repararse (%1).</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>Hay un punto de montaje en la ruta (%1). El instalador no cruza los límites de un sistema de archivos.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>El sistema informó del error %1.</translation>
     </message>
 </context>
 <context>
@@ -228,24 +284,28 @@
         <translation>No se pudo instalar quillbarn</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>Eliminando quillbarn</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>Desinstalando quillbarn</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>No se pudo eliminar quillbarn</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>No se pudo desinstalar quillbarn</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
         <translation>Expulsando la imagen de disco</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>Expulsando: esperando a que el volumen quede libre</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>Expulsando la imagen de disco: nuevo intento</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
         <translation>No se pudo expulsar la imagen de disco</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>Instalador de quillbarn: opciones no válidas</translation>
     </message>
 </context>
 </TS>

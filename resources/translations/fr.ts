@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>La fenêtre ne peut pas être ouverte avec le greffon «&#xa0;%1&#xa0;»&#xa0;: installez-le ou supprimez la variable QT_QPA_PLATFORM.</translation>
+        <source>plugin not found</source>
+        <translation>Impossible d’ouvrir la fenêtre avec le greffon de plateforme Qt «&#xa0;%1&#xa0;». Installez le greffon ou supprimez la variable QT_QPA_PLATFORM.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>La fenêtre ne peut pas être ouverte sur l’affichage Wayland «&#xa0;%1&#xa0;»&#xa0;: vérifiez que WAYLAND_DISPLAY désigne un compositeur en cours d’exécution.</translation>
+        <source>Wayland display not found</source>
+        <translation>Impossible d’ouvrir la fenêtre sur l’affichage Wayland «&#xa0;%1&#xa0;». Vérifiez que WAYLAND_DISPLAY désigne un compositeur en cours d’exécution.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>La fenêtre ne peut pas être ouverte sur l’affichage Wayland «&#xa0;%1&#xa0;»&#xa0;: installez le paquet qt6-wayland.</translation>
+        <source>Wayland plugin not found</source>
+        <translation>Impossible d’ouvrir la fenêtre sur l’affichage Wayland «&#xa0;%1&#xa0;». Installez le paquet qt6-wayland.</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>La fenêtre ne peut pas être ouverte sur l’affichage «&#xa0;%1&#xa0;»&#xa0;: vérifiez que DISPLAY désigne un serveur X en cours d’exécution.</translation>
+        <source>X display not found</source>
+        <translation>Impossible d’ouvrir la fenêtre sur l’affichage «&#xa0;%1&#xa0;». Vérifiez que DISPLAY désigne un serveur X en cours d’exécution.</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>La fenêtre ne peut pas être ouverte sans affichage&#xa0;: lancez le programme dans une session de bureau ou définissez la variable DISPLAY.</translation>
+        <source>no display</source>
+        <translation>Impossible d’ouvrir la fenêtre sans affichage. Lancez l’installateur dans une session de bureau, ou définissez DISPLAY ou WAYLAND_DISPLAY.</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>L’opération n’a pas pu se poursuivre, car la mémoire est épuisée.</translation>
+        <source>out of memory</source>
+        <translation>Impossible de poursuivre l’opération. La mémoire est insuffisante.</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>L’opération n’a pas pu se poursuivre. Cause&#xa0;: %1</translation>
+        <source>internal error</source>
+        <translation>Impossible de poursuivre l’opération. Erreur interne&#xa0;: %1</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être modifié, car il s’agit d’un lien vers «&#xa0;%2&#xa0;».</translation>
+        <source>incomplete, install again</source>
+        <translation>La copie de quillbarn dans «&#xa0;%1&#xa0;» est incomplète. Installez quillbarn de nouveau.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être installé, car il s’agit de «&#xa0;%2&#xa0;», qui serait d’abord vidé.</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>La copie de quillbarn dans «&#xa0;%1&#xa0;» est incomplète. Désinstallez quillbarn de nouveau.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être modifié, car le lien «&#xa0;%2&#xa0;» mène à l’extérieur, vers «&#xa0;%3&#xa0;».</translation>
+        <source>maybe incomplete</source>
+        <translation>La copie de quillbarn dans «&#xa0;%1&#xa0;» est peut-être incomplète. Relancez l’installateur.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être installé, car un lien qui ne mène nulle part occupe sa place. Désinstallez d’abord l’application&#xa0;: le lien sera aussi supprimé.</translation>
+        <source>symlink loop</source>
+        <translation>Impossible de suivre le lien symbolique «&#xa0;%1&#xa0;». La cible «&#xa0;%2/&#xa0;» est un dossier qui contient le lien symbolique (boucle).</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>Le lien «&#xa0;%1&#xa0;» n’a pas pu être suivi, car il ramène à «&#xa0;%2/&#xa0;», un dossier qui le contient.</translation>
+        <source>too many symlinks</source>
+        <translation>Impossible de suivre le lien symbolique «&#xa0;%1&#xa0;». Trop de liens symboliques mènent au dossier «&#xa0;%2/&#xa0;».</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>Le travail n’a pas pu être lancé&#xa0;: %1 (%2).</translation>
+        <source>source is the installed folder</source>
+        <translation>Impossible d’installer le dossier «&#xa0;%1&#xa0;». Il s’agit du même dossier que le dossier installé «&#xa0;%2&#xa0;», qui est vidé avant la copie. Installez depuis un autre dossier.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» n’a pas pu être ouvert, car un autre programme le garde verrouillé.</translation>
+        <source>application is a symlink</source>
+        <translation>Impossible de modifier l’application «&#xa0;%1&#xa0;». L’application est un lien symbolique vers «&#xa0;%2&#xa0;». Supprimez le lien symbolique et relancez l’installateur.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» n’a pas pu être ouvert&#xa0;: %2 (%3).</translation>
+        <source>symlink points outside</source>
+        <translation>Impossible de modifier l’application «&#xa0;%1&#xa0;». Le lien symbolique «&#xa0;%2&#xa0;» de l’application pointe hors de celle-ci, vers «&#xa0;%3&#xa0;». Supprimez le lien symbolique et relancez l’installateur.</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» n’a pas pu être créé&#xa0;: %2 (%3).</translation>
+        <source>dangling symlink exists</source>
+        <translation>Impossible d’installer «&#xa0;%1&#xa0;». Un lien symbolique rompu portant le même nom existe déjà. Désinstallez quillbarn, puis installez quillbarn de nouveau.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être copié vers «&#xa0;%2&#xa0;», car il s’agit d’un périphérique, d’un tube ou d’un socket.</translation>
+        <source>names are equal</source>
+        <translation>Impossible d’installer «&#xa0;%1&#xa0;». Le volume ne distingue pas ce nom du nom «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être copié vers «&#xa0;%2&#xa0;»&#xa0;: %3 (%4).</translation>
+        <source>operation not started</source>
+        <translation>Impossible de démarrer l’opération.</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être supprimé&#xa0;: %2 (%3).</translation>
+        <source>folder is locked</source>
+        <translation>Impossible de verrouiller le dossier «&#xa0;%1&#xa0;». Un autre programme a verrouillé le dossier. Attendez que l’autre programme ait terminé, puis relancez l’installateur.</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>Les modifications apportées à «&#xa0;%1&#xa0;» n’ont pas pu être écrites sur le disque&#xa0;: %2 (%3).</translation>
+        <source>folder not opened</source>
+        <translation>Impossible d’ouvrir le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Seul «&#xa0;root&#xa0;» peut écrire dans «&#xa0;%2&#xa0;»&#xa0;: lancez l’installateur avec un compte qui en a le droit.</translation>
+        <source>folder not created</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Seuls «&#xa0;root&#xa0;» et le groupe «&#xa0;%4&#xa0;» peuvent écrire dans «&#xa0;%2&#xa0;»&#xa0;: lancez l’installateur avec un compte qui en a le droit.</translation>
+        <source>item not copied</source>
+        <translation>Impossible de copier «&#xa0;%1&#xa0;» vers «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Seuls «&#xa0;root&#xa0;» et «&#xa0;%3&#xa0;» peuvent écrire dans «&#xa0;%2&#xa0;»&#xa0;: lancez l’installateur avec un compte qui en a le droit.</translation>
+        <source>item not removed</source>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1 Seuls «&#xa0;root&#xa0;», «&#xa0;%3&#xa0;» et le groupe «&#xa0;%4&#xa0;» peuvent écrire dans «&#xa0;%2&#xa0;»&#xa0;: lancez l’installateur avec un compte qui en a le droit.</translation>
+        <source>changes not written</source>
+        <translation>Impossible d’écrire sur le disque les modifications apportées à «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être lu&#xa0;: %2 (%3).</translation>
+        <source>root can write</source>
+        <translation>Seul «&#xa0;root&#xa0;» peut écrire dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>Les informations sur «&#xa0;%1&#xa0;» n’ont pas pu être obtenues&#xa0;: %2 (%3).</translation>
+        <source>group can write</source>
+        <translation>Seuls «&#xa0;root&#xa0;» et les membres du groupe «&#xa0;%3&#xa0;» peuvent écrire dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>Seuls «&#xa0;root&#xa0;» et «&#xa0;%2&#xa0;» peuvent écrire dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>Seuls «&#xa0;root&#xa0;», «&#xa0;%2&#xa0;» et les membres du groupe «&#xa0;%3&#xa0;» peuvent écrire dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>Lancez l’installateur avec un compte qui a la permission d’écriture.</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>Impossible de copier «&#xa0;%1&#xa0;». La source est un périphérique, un tube ou un socket.</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>Impossible d’obtenir des informations sur «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>Impossible de lire le dossier «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>vous n’avez pas l’autorisation d’y accéder</translation>
+        <source>EACCES</source>
+        <translation>Vous n’avez pas la permission nécessaire (%1).</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>l’élément est en cours d’utilisation ou un autre volume y est monté</translation>
+        <source>EAGAIN</source>
+        <translation>Une ressource du système est temporairement indisponible (%1). Réessayez plus tard.</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>votre part de l’espace du volume est épuisée</translation>
+        <source>EBUSY</source>
+        <translation>Le fichier ou le dossier est en cours d’utilisation ou est un point de montage (%1).</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>un élément du même nom existe déjà</translation>
+        <source>EDQUOT</source>
+        <translation>Le quota d’espace disque est épuisé (%1). Libérez de l’espace.</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>le fichier dépasse la taille autorisée</translation>
+        <source>EEXIST</source>
+        <translation>Un élément portant le même nom existe déjà (%1).</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>le disque a signalé une erreur</translation>
+        <source>EFBIG</source>
+        <translation>Le fichier est trop volumineux pour le volume ou pour la limite de taille des fichiers (%1).</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>il s’agit d’un dossier</translation>
+        <source>EIO</source>
+        <translation>Une erreur de lecture ou d’écriture s’est produite (%1). Vérifiez le disque.</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>un lien se trouve sur son chemin</translation>
+        <source>EISDIR</source>
+        <translation>Un dossier se trouve à la place d’un fichier (%1).</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>son nom ou son chemin est trop long</translation>
+        <source>ELOOP</source>
+        <translation>Le chemin contient une boucle de liens symboliques ou un lien symbolique que l’installateur ne suit pas (%1).</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>les données se sont terminées trop tôt, car elles ont été modifiées entre-temps ou le disque a signalé une erreur</translation>
+        <source>EMFILE</source>
+        <translation>L’installateur a ouvert trop de fichiers (%1).</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>l’élément n’existe pas</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>Un nom ou un chemin est trop long (%1).</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>la mémoire est épuisée</translation>
+        <source>ENFILE</source>
+        <translation>Trop de fichiers sont ouverts sur le système (%1). Fermez d’autres programmes.</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>le volume n’a plus d’espace libre</translation>
+        <source>ENODATA</source>
+        <translation>Le fichier a changé pendant la copie ou le disque présente une erreur (%1).</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>cela requiert Linux 5.6 ou ultérieur et aucun bac à sable qui masque openat2</translation>
+        <source>ENOENT</source>
+        <translation>L’élément, ou un dossier du chemin, n’existe pas (%1).</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>une partie de son chemin n’est pas un dossier</translation>
+        <source>ENOMEM</source>
+        <translation>La mémoire est insuffisante (%1). Fermez d’autres programmes.</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>le dossier n’est pas vide</translation>
+        <source>ENOSPC</source>
+        <translation>Le volume n’a plus de place pour des données ou d’autres fichiers (%1). Libérez de l’espace.</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>l’élément ou son dossier est protégé – immuable, en ajout seul ou avec le bit «&#xa0;sticky&#xa0;»</translation>
+        <source>ENOSYS</source>
+        <translation>Le système ou un bac à sable ne fournit pas une fonction requise (%1). Linux 5.6 ou ultérieur et l’appel système «&#xa0;openat2&#xa0;» sont nécessaires.</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>le volume est en lecture seule</translation>
+        <source>ENOTDIR</source>
+        <translation>L’élément, ou une partie du chemin, n’est pas un dossier (%1).</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>l’élément se trouve sur un autre volume, monté à cet endroit</translation>
+        <source>ENOTEMPTY</source>
+        <translation>Le dossier n’est pas vide (%1).</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>le système a refusé</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>Le volume ne prend pas en charge l’opération (%1).</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>Le système n’autorise pas l’opération (%1). Causes possibles&#xa0;: un élément ou un dossier protégé (immuable, ajout seul ou bit «&#xa0;sticky&#xa0;»), un volume qui ne prend pas en charge les liens symboliques ou les liens physiques, ou un bac à sable.</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>Le volume est en lecture seule (%1).</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>Le fichier est utilisé comme programme en cours d’exécution ou comme espace d’échange (%1). Fermez le programme.</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>Le système de fichiers du volume est endommagé et doit être réparé (%1).</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>Un point de montage se trouve sur le chemin (%1). L’installateur ne franchit pas les limites d’un système de fichiers.</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>Le système a signalé l’erreur %1.</translation>
     </message>
 </context>
 <context>
@@ -225,27 +281,31 @@
     </message>
     <message>
         <source>quillbarn could not be installed</source>
-        <translation>quillbarn n’a pas pu être installé</translation>
+        <translation>Impossible d’installer quillbarn</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>Suppression de quillbarn</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>Désinstallation de quillbarn</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>quillbarn n’a pas pu être supprimé</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>Impossible de désinstaller quillbarn</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
         <translation>Éjection de l’image disque</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>Éjection&#xa0;: en attente de la libération du volume</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>Éjection de l’image disque&#xa0;: nouvelle tentative</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
-        <translation>L’image disque n’a pas pu être éjectée</translation>
+        <translation>Impossible d’éjecter l’image disque</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>Installateur de quillbarn&#xa0;: options non valides</translation>
     </message>
 </context>
 </TS>

@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>プラグイン「%1」でウィンドウを開けません。プラグインをインストールするか、QT_QPA_PLATFORM の設定を解除してください。</translation>
+        <source>plugin not found</source>
+        <translation>Qt プラットフォームプラグイン「%1」でウィンドウを開けませんでした。プラグインをインストールするか、QT_QPA_PLATFORM の設定を解除してください。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>Wayland ディスプレイ「%1」でウィンドウを開けません。WAYLAND_DISPLAY が実行中のコンポジターを指しているか確認してください。</translation>
+        <source>Wayland display not found</source>
+        <translation>Wayland ディスプレイ「%1」にウィンドウを開けませんでした。WAYLAND_DISPLAY が実行中のコンポジターを指しているか確認してください。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>Wayland ディスプレイ「%1」でウィンドウを開けません。パッケージ qt6-wayland をインストールしてください。</translation>
+        <source>Wayland plugin not found</source>
+        <translation>Wayland ディスプレイ「%1」にウィンドウを開けませんでした。パッケージ qt6-wayland をインストールしてください。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>ディスプレイ「%1」でウィンドウを開けません。DISPLAY が実行中の X サーバーを指しているか確認してください。</translation>
+        <source>X display not found</source>
+        <translation>ディスプレイ「%1」にウィンドウを開けませんでした。DISPLAY が実行中の X サーバーを指しているか確認してください。</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>ディスプレイがないため、ウィンドウを開けません。デスクトップセッションで起動するか、DISPLAY を設定してください。</translation>
+        <source>no display</source>
+        <translation>ディスプレイがないため、ウィンドウを開けませんでした。デスクトップセッションでインストーラーを起動するか、DISPLAY または WAYLAND_DISPLAY を設定してください。</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>メモリー不足のため、処理を続行できませんでした。</translation>
+        <source>out of memory</source>
+        <translation>処理を続行できませんでした。メモリーが足りません。</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>処理を続行できませんでした。原因: %1</translation>
+        <source>internal error</source>
+        <translation>処理を続行できませんでした。内部エラー: %1</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>「%1」は「%2」へのリンクであるため、変更できませんでした。</translation>
+        <source>incomplete, install again</source>
+        <translation>「%1」にある quillbarn は不完全な状態です。quillbarn をもう一度インストールしてください。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>「%1」は先に空にされる「%2」と同じものであるため、インストールできませんでした。</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>「%1」にある quillbarn は不完全な状態です。quillbarn をもう一度アンインストールしてください。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>リンク「%2」が外部の「%3」を指しているため、「%1」を変更できませんでした。</translation>
+        <source>maybe incomplete</source>
+        <translation>「%1」にある quillbarn は不完全な可能性があります。インストーラーをもう一度起動してください。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>リンク先のないリンクが同じ場所にあるため、「%1」をインストールできませんでした。先にアンインストールしてください。リンクも削除されます。</translation>
+        <source>symlink loop</source>
+        <translation>シンボリックリンク「%1」をたどれませんでした。リンク先「%2/」は、このシンボリックリンク自体を含むフォルダーです (ループ)。</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>リンク「%1」は、それ自体を含むフォルダー「%2/」に戻るため、たどれませんでした。</translation>
+        <source>too many symlinks</source>
+        <translation>シンボリックリンク「%1」をたどれませんでした。フォルダー「%2/」を指すシンボリックリンクが多すぎます。</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>処理を開始できませんでした: %1 (%2)。</translation>
+        <source>source is the installed folder</source>
+        <translation>フォルダー「%1」をインストールできませんでした。インストール元が、インストール済みのフォルダー「%2」と同じフォルダーです。このフォルダーはコピーの前に空にされます。別のフォルダーからインストールしてください。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>ほかのプログラムがロックしているため、フォルダー「%1」を開けませんでした。</translation>
+        <source>application is a symlink</source>
+        <translation>アプリケーション「%1」を変更できませんでした。このアプリケーションは「%2」へのシンボリックリンクです。シンボリックリンクを削除してから、インストーラーをもう一度起動してください。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>フォルダー「%1」を開けませんでした: %2 (%3)。</translation>
+        <source>symlink points outside</source>
+        <translation>アプリケーション「%1」を変更できませんでした。アプリケーション内のシンボリックリンク「%2」が、外部の「%3」を指しています。シンボリックリンクを削除してから、インストーラーをもう一度起動してください。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>フォルダー「%1」を作成できませんでした: %2 (%3)。</translation>
+        <source>dangling symlink exists</source>
+        <translation>「%1」をインストールできませんでした。同じ名前のリンク切れのシンボリックリンクがすでに存在します。quillbarn をアンインストールしてから、もう一度インストールしてください。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>「%1」はデバイス、パイプ、またはソケットであるため、「%2」にコピーできませんでした。</translation>
+        <source>names are equal</source>
+        <translation>「%1」をインストールできませんでした。このボリュームでは、この名前は「%2」と区別されません。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>「%1」を「%2」にコピーできませんでした: %3 (%4)。</translation>
+        <source>operation not started</source>
+        <translation>処理を開始できませんでした。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>「%1」を削除できませんでした: %2 (%3)。</translation>
+        <source>folder is locked</source>
+        <translation>フォルダー「%1」をロックできませんでした。別のプログラムがフォルダーをロックしています。そのプログラムの終了を待ってから、インストーラーをもう一度起動してください。</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>「%1」の変更をディスクに書き込めませんでした: %2 (%3)。</translation>
+        <source>folder not opened</source>
+        <translation>フォルダー「%1」を開けませんでした。</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1「%2」に書き込めるのは「root」だけです。書き込み権限のあるユーザーでインストーラーを起動してください。</translation>
+        <source>folder not created</source>
+        <translation>フォルダー「%1」を作成できませんでした。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1「%2」に書き込めるのは「root」とグループ「%4」だけです。書き込み権限のあるユーザーでインストーラーを起動してください。</translation>
+        <source>item not copied</source>
+        <translation>「%1」を「%2」にコピーできませんでした。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1「%2」に書き込めるのは「root」と「%3」だけです。書き込み権限のあるユーザーでインストーラーを起動してください。</translation>
+        <source>item not removed</source>
+        <translation>「%1」を削除できませんでした。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1「%2」に書き込めるのは「root」、「%3」、およびグループ「%4」だけです。書き込み権限のあるユーザーでインストーラーを起動してください。</translation>
+        <source>changes not written</source>
+        <translation>「%1」の変更内容をディスクに書き込めませんでした。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>「%1」を読み込めませんでした: %2 (%3)。</translation>
+        <source>root can write</source>
+        <translation>「%1」に書き込めるのは「root」だけです。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>「%1」の情報を取得できませんでした: %2 (%3)。</translation>
+        <source>group can write</source>
+        <translation>「%1」に書き込めるのは「root」、およびグループ「%3」のメンバーだけです。</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>「%1」に書き込めるのは「root」と「%2」だけです。</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>「%1」に書き込めるのは「root」、「%2」、およびグループ「%3」のメンバーだけです。</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>書き込み権限のあるユーザーでインストーラーを起動してください。</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>「%1」をコピーできませんでした。コピー元はデバイス、パイプ、またはソケットです。</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>「%1」を読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>「%1」の情報を取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>フォルダー「%1」を読み込めませんでした。</translation>
     </message>
 </context>
 <context>
@@ -119,7 +151,7 @@
     </message>
     <message>
         <source>Progress</source>
-        <translation>進捗</translation>
+        <translation>進行状況</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>アクセスする権限がありません</translation>
+        <source>EACCES</source>
+        <translation>必要な権限がありません (%1)。</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>使用中であるか、別のボリュームがマウントされています</translation>
+        <source>EAGAIN</source>
+        <translation>システムのリソースが一時的に利用できません (%1)。しばらくしてからもう一度試してください。</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>割り当てられたボリュームの容量を使い切りました</translation>
+        <source>EBUSY</source>
+        <translation>ファイルまたはフォルダーが使用中か、マウントポイントです (%1)。</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>同じ名前の項目がすでに存在します</translation>
+        <source>EDQUOT</source>
+        <translation>ディスク使用量の上限 (クォータ) に達しました (%1)。不要なファイルを削除してください。</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>ファイルの大きさの上限を超えています</translation>
+        <source>EEXIST</source>
+        <translation>同じ名前の項目がすでに存在します (%1)。</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>ディスクがエラーを報告しました</translation>
+        <source>EFBIG</source>
+        <translation>ファイルのサイズが、ボリュームの上限またはファイルサイズの制限を超えています (%1)。</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>フォルダーです</translation>
+        <source>EIO</source>
+        <translation>読み込みまたは書き込みのエラーが発生しました (%1)。ディスクを確認してください。</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>パスの途中にリンクがあります</translation>
+        <source>EISDIR</source>
+        <translation>ファイルがあるべき場所にフォルダーがあります (%1)。</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>名前またはパスが長すぎます</translation>
+        <source>ELOOP</source>
+        <translation>パスに、シンボリックリンクのループ、またはインストーラーがたどらないシンボリックリンクがあります (%1)。</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>データが途中で終わりました。その間に変更されたか、ディスクがエラーを報告しました</translation>
+        <source>EMFILE</source>
+        <translation>インストーラーが開いているファイルが多すぎます (%1)。</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>存在しません</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>名前またはパスが長すぎます (%1)。</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>メモリーが不足しています</translation>
+        <source>ENFILE</source>
+        <translation>システム全体で開いているファイルが多すぎます (%1)。ほかのプログラムを終了してください。</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>ボリュームに空き容量がありません</translation>
+        <source>ENODATA</source>
+        <translation>コピー中にファイルが変更されたか、ディスクにエラーがあります (%1)。</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>Linux 5.6 以降が必要で、openat2 を隠すサンドボックスでは動作しません</translation>
+        <source>ENOENT</source>
+        <translation>項目、またはパス上のフォルダーが存在しません (%1)。</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>パスの一部がフォルダーではありません</translation>
+        <source>ENOMEM</source>
+        <translation>メモリーが足りません (%1)。ほかのプログラムを終了してください。</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>空ではありません</translation>
+        <source>ENOSPC</source>
+        <translation>ボリュームに、データやファイルを追加する空きがありません (%1)。空き容量を増やしてください。</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>項目またはそのフォルダーが、変更不可、追記専用、またはスティッキーとして保護されています</translation>
+        <source>ENOSYS</source>
+        <translation>必要な機能がシステムまたはサンドボックスで提供されていません (%1)。Linux 5.6 以降と、システムコール「openat2」が必要です。</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>ボリュームが読み取り専用です</translation>
+        <source>ENOTDIR</source>
+        <translation>項目、またはパスの一部がフォルダーではありません (%1)。</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>そこにマウントされた別のボリュームにあります</translation>
+        <source>ENOTEMPTY</source>
+        <translation>フォルダーが空ではありません (%1)。</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>システムに拒否されました</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>ボリュームがこの操作に対応していません (%1)。</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>システムがこの操作を許可していません (%1)。考えられる原因: 保護された項目またはフォルダー (変更不可、追記専用、またはスティッキービット)、シンボリックリンクまたはハードリンクを使えないボリューム、またはサンドボックス。</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>ボリュームが読み取り専用です (%1)。</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>ファイルが実行中のプログラムまたはスワップ領域として使用されています (%1)。プログラムを終了してください。</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>ボリュームのファイルシステムが壊れており、修復が必要です (%1)。</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>パス上にマウントポイントがあります (%1)。インストーラーはファイルシステムの境界を越えません。</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>システムがエラー %1 を報告しました。</translation>
     </message>
 </context>
 <context>
@@ -228,24 +284,28 @@
         <translation>quillbarn をインストールできませんでした</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>quillbarn を削除しています</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>quillbarn をアンインストールしています</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>quillbarn を削除できませんでした</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>quillbarn をアンインストールできませんでした</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
         <translation>ディスクイメージを取り出しています</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>取り出し中: ボリュームの使用が終わるのを待っています</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>ディスクイメージを取り出しています: 再試行中</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
         <translation>ディスクイメージを取り出せませんでした</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>quillbarn インストーラー: 無効なオプション</translation>
     </message>
 </context>
 </TS>

@@ -4,111 +4,143 @@
 <context>
     <name>Displays</name>
     <message>
-        <source>The window can’t be opened by the plugin “%1”: install it, or unset QT_QPA_PLATFORM.</source>
-        <translation>无法使用插件“%1”打开窗口：请安装该插件，或取消设置 QT_QPA_PLATFORM。</translation>
+        <source>plugin not found</source>
+        <translation>无法使用 Qt 平台插件“%1”打开窗口。请安装该插件，或取消设置 QT_QPA_PLATFORM。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: check that WAYLAND_DISPLAY names a running compositor.</source>
-        <translation>无法在 Wayland 显示“%1”上打开窗口：请检查 WAYLAND_DISPLAY 是否指向正在运行的合成器。</translation>
+        <source>Wayland display not found</source>
+        <translation>无法在 Wayland 显示“%1”上打开窗口。请检查 WAYLAND_DISPLAY 是否指向正在运行的合成器。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the Wayland display “%1”: install the package qt6-wayland.</source>
-        <translation>无法在 Wayland 显示“%1”上打开窗口：请安装软件包 qt6-wayland。</translation>
+        <source>Wayland plugin not found</source>
+        <translation>无法在 Wayland 显示“%1”上打开窗口。请安装软件包 qt6-wayland。</translation>
     </message>
     <message>
-        <source>The window can’t be opened on the display “%1”: check that DISPLAY names a running X server.</source>
-        <translation>无法在显示“%1”上打开窗口：请检查 DISPLAY 是否指向正在运行的 X 服务器。</translation>
+        <source>X display not found</source>
+        <translation>无法在显示“%1”上打开窗口。请检查 DISPLAY 是否指向正在运行的 X 服务器。</translation>
     </message>
     <message>
-        <source>The window can’t be opened without a display: start it in a desktop session, or set DISPLAY.</source>
-        <translation>没有显示，无法打开窗口：请在桌面会话中启动，或设置 DISPLAY。</translation>
+        <source>no display</source>
+        <translation>没有可用的显示，无法打开窗口。请在桌面会话中运行安装程序，或者设置 DISPLAY 或 WAYLAND_DISPLAY。</translation>
     </message>
 </context>
 <context>
     <name>Errors</name>
     <message>
-        <source>The run couldn’t go on because the memory is used up.</source>
-        <translation>内存已用尽，无法继续操作。</translation>
+        <source>out of memory</source>
+        <translation>无法继续操作。内存不足。</translation>
     </message>
     <message>
-        <source>The run couldn’t go on because of: %1</source>
-        <translation>无法继续操作，原因：%1</translation>
+        <source>internal error</source>
+        <translation>无法继续操作。内部错误：%1</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because it is a link, to “%2”.</source>
-        <translation>无法更改“%1”，因为它是指向“%2”的链接。</translation>
+        <source>incomplete, install again</source>
+        <translation>“%1”中的 quillbarn 不完整。请重新安装 quillbarn。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because it is “%2”, which would be emptied first.</source>
-        <translation>无法安装“%1”，因为它就是“%2”，而后者会先被清空。</translation>
+        <source>incomplete, uninstall again</source>
+        <translation>“%1”中的 quillbarn 不完整。请再次卸载 quillbarn。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be changed because the link “%2” leads out of it, to “%3”.</source>
-        <translation>无法更改“%1”，因为其中的链接“%2”指向外部的“%3”。</translation>
+        <source>maybe incomplete</source>
+        <translation>“%1”中的 quillbarn 可能不完整。请重新运行安装程序。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be installed because a link that leads nowhere has its place. Uninstall first, which removes the link, too.</source>
-        <translation>无法安装“%1”，因为其位置上有一个失效的链接。请先卸载，该链接也会随之移除。</translation>
+        <source>symlink loop</source>
+        <translation>无法跟随符号链接“%1”。目标“%2/”是包含该符号链接的文件夹（循环链接）。</translation>
     </message>
     <message>
-        <source>The link “%1” couldn’t be followed because it leads back to “%2/”, a folder that holds it.</source>
-        <translation>无法跟随链接“%1”，因为它又指回包含它的文件夹“%2/”。</translation>
+        <source>too many symlinks</source>
+        <translation>无法跟随符号链接“%1”。指向文件夹“%2/”的符号链接过多。</translation>
     </message>
     <message>
-        <source>The work couldn’t be started because %1 (%2).</source>
-        <translation>无法开始操作：%1（%2）。</translation>
+        <source>source is the installed folder</source>
+        <translation>无法安装文件夹“%1”。该文件夹与已安装的文件夹“%2”是同一个文件夹，而已安装的文件夹会在复制前被清空。请从其他文件夹安装。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because another program holds it locked.</source>
-        <translation>无法打开文件夹“%1”，因为另一个程序已将其锁定。</translation>
+        <source>application is a symlink</source>
+        <translation>无法更改应用程序“%1”。该应用程序是指向“%2”的符号链接。请删除该符号链接，然后重新运行安装程序。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be opened because %2 (%3).</source>
-        <translation>无法打开文件夹“%1”：%2（%3）。</translation>
+        <source>symlink points outside</source>
+        <translation>无法更改应用程序“%1”。该应用程序中的符号链接“%2”指向其外部的“%3”。请删除该符号链接，然后重新运行安装程序。</translation>
     </message>
     <message>
-        <source>The folder “%1” couldn’t be created because %2 (%3).</source>
-        <translation>无法创建文件夹“%1”：%2（%3）。</translation>
+        <source>dangling symlink exists</source>
+        <translation>无法安装“%1”。已存在同名的失效符号链接。请先卸载 quillbarn，然后重新安装。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because it is a device, a pipe or a socket.</source>
-        <translation>无法将“%1”复制到“%2”，因为它是设备、管道或套接字。</translation>
+        <source>names are equal</source>
+        <translation>无法安装“%1”。该卷不区分此名称与“%2”。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be copied to “%2” because %3 (%4).</source>
-        <translation>无法将“%1”复制到“%2”：%3（%4）。</translation>
+        <source>operation not started</source>
+        <translation>无法开始操作。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be removed because %2 (%3).</source>
-        <translation>无法移除“%1”：%2（%3）。</translation>
+        <source>folder is locked</source>
+        <translation>无法锁定文件夹“%1”。另一个程序已锁定该文件夹。请等待该程序结束，然后重新运行安装程序。</translation>
     </message>
     <message>
-        <source>What was changed in “%1” couldn’t be written to the disk because %2 (%3).</source>
-        <translation>无法将“%1”中的更改写入磁盘：%2（%3）。</translation>
+        <source>folder not opened</source>
+        <translation>无法打开文件夹“%1”。</translation>
     </message>
     <message>
-        <source>%1 Only “root” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1只有“root”可以写入“%2”：请以有此权限的用户启动安装程序。</translation>
+        <source>folder not created</source>
+        <translation>无法创建文件夹“%1”。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1只有“root”和组“%4”可以写入“%2”：请以有此权限的用户启动安装程序。</translation>
+        <source>item not copied</source>
+        <translation>无法将“%1”复制到“%2”。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1只有“root”和“%3”可以写入“%2”：请以有此权限的用户启动安装程序。</translation>
+        <source>item not removed</source>
+        <translation>无法删除“%1”。</translation>
     </message>
     <message>
-        <source>%1 Only “root” and “%3” and the group “%4” may write in “%2”: start the installer as one who may.</source>
-        <translation>%1只有“root”、“%3”和组“%4”可以写入“%2”：请以有此权限的用户启动安装程序。</translation>
+        <source>changes not written</source>
+        <translation>无法将“%1”中的更改写入磁盘。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be read because %2 (%3).</source>
-        <translation>无法读取“%1”：%2（%3）。</translation>
+        <source>root can write</source>
+        <translation>只有“root”可以写入“%1”。</translation>
     </message>
     <message>
-        <source>“%1” couldn’t be looked at because %2 (%3).</source>
-        <translation>无法获取“%1”的信息：%2（%3）。</translation>
+        <source>group can write</source>
+        <translation>只有“root”以及用户组“%3”的成员可以写入“%1”。</translation>
+    </message>
+    <message>
+        <source>owner can write</source>
+        <translation>只有“root”和“%2”可以写入“%1”。</translation>
+    </message>
+    <message>
+        <source>owner and group can write</source>
+        <translation>只有“root”、“%2”以及用户组“%3”的成员可以写入“%1”。</translation>
+    </message>
+    <message>
+        <source>write permission required</source>
+        <translation>请以具有写入权限的用户身份运行安装程序。</translation>
+    </message>
+    <message>
+        <source>item is special</source>
+        <translation>无法复制“%1”。来源是设备、管道或套接字。</translation>
+    </message>
+    <message>
+        <source>item not read</source>
+        <translation>无法读取“%1”。</translation>
+    </message>
+    <message>
+        <source>two sentences</source>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>item not examined</source>
+        <translation>无法获取“%1”的信息。</translation>
+    </message>
+    <message>
+        <source>folder not read</source>
+        <translation>无法读取文件夹“%1”。</translation>
     </message>
 </context>
 <context>
@@ -137,84 +169,108 @@
 <context>
     <name>Reasons</name>
     <message>
-        <source>you don’t have permission to access it</source>
-        <translation>您没有访问权限</translation>
+        <source>EACCES</source>
+        <translation>没有所需的权限（%1）。</translation>
     </message>
     <message>
-        <source>it is in use, or another volume is mounted there</source>
-        <translation>它正在使用中，或有其他卷挂载在此处</translation>
+        <source>EAGAIN</source>
+        <translation>系统资源暂时不可用（%1）。请稍后重试。</translation>
     </message>
     <message>
-        <source>your share of the volume’s space is used up</source>
-        <translation>您在该卷上的空间配额已用尽</translation>
+        <source>EBUSY</source>
+        <translation>文件或文件夹正在使用中，或者是挂载点（%1）。</translation>
     </message>
     <message>
-        <source>an item with the same name already exists</source>
-        <translation>已存在同名的项目</translation>
+        <source>EDQUOT</source>
+        <translation>磁盘配额已用完（%1）。请释放一些空间。</translation>
     </message>
     <message>
-        <source>it is larger than a file may be</source>
-        <translation>文件超过了允许的大小</translation>
+        <source>EEXIST</source>
+        <translation>已存在同名项目（%1）。</translation>
     </message>
     <message>
-        <source>the disk reported a fault</source>
-        <translation>磁盘报告了错误</translation>
+        <source>EFBIG</source>
+        <translation>文件过大，超出了卷的限制或文件大小限制（%1）。</translation>
     </message>
     <message>
-        <source>it is a folder</source>
-        <translation>它是一个文件夹</translation>
+        <source>EIO</source>
+        <translation>读取或写入时出错（%1）。请检查磁盘。</translation>
     </message>
     <message>
-        <source>a link is on its path</source>
-        <translation>其路径上有一个链接</translation>
+        <source>EISDIR</source>
+        <translation>本应是文件的位置存在一个文件夹（%1）。</translation>
     </message>
     <message>
-        <source>its name or path is too long</source>
-        <translation>其名称或路径过长</translation>
+        <source>ELOOP</source>
+        <translation>路径中有符号链接循环，或有安装程序不跟随的符号链接（%1）。</translation>
     </message>
     <message>
-        <source>its data ended early: it was changed meanwhile, or the disk reported a fault</source>
-        <translation>数据提前结束，可能是其间被更改，或磁盘报告了错误</translation>
+        <source>EMFILE</source>
+        <translation>安装程序打开的文件过多（%1）。</translation>
     </message>
     <message>
-        <source>it doesn’t exist</source>
-        <translation>它不存在</translation>
+        <source>ENAMETOOLONG</source>
+        <translation>名称或路径过长（%1）。</translation>
     </message>
     <message>
-        <source>the memory is used up</source>
-        <translation>内存已用尽</translation>
+        <source>ENFILE</source>
+        <translation>系统中打开的文件过多（%1）。请关闭其他程序。</translation>
     </message>
     <message>
-        <source>the volume is out of space</source>
-        <translation>卷上没有剩余空间</translation>
+        <source>ENODATA</source>
+        <translation>文件在复制过程中发生了更改，或磁盘有错误（%1）。</translation>
     </message>
     <message>
-        <source>that takes Linux 5.6 or later, and no sandbox that hides openat2</source>
-        <translation>需要 Linux 5.6 或更高版本，且不能有隐藏 openat2 的沙盒</translation>
+        <source>ENOENT</source>
+        <translation>项目不存在，或路径中的某个文件夹不存在（%1）。</translation>
     </message>
     <message>
-        <source>a part of its path is not a folder</source>
-        <translation>其路径的一部分不是文件夹</translation>
+        <source>ENOMEM</source>
+        <translation>内存不足（%1）。请关闭其他程序。</translation>
     </message>
     <message>
-        <source>it is not empty</source>
-        <translation>它不是空的</translation>
+        <source>ENOSPC</source>
+        <translation>卷上没有空间容纳更多数据或文件（%1）。请释放一些空间。</translation>
     </message>
     <message>
-        <source>it or its folder is protected: immutable, append-only or sticky</source>
-        <translation>它或其所在文件夹受保护，属性为不可更改、仅可追加或粘滞位</translation>
+        <source>ENOSYS</source>
+        <translation>系统或沙盒未提供所需的功能（%1）。需要 Linux 5.6 或更高版本以及系统调用“openat2”。</translation>
     </message>
     <message>
-        <source>the volume is read only</source>
-        <translation>卷是只读的</translation>
+        <source>ENOTDIR</source>
+        <translation>项目不是文件夹，或路径的某一部分不是文件夹（%1）。</translation>
     </message>
     <message>
-        <source>it lies on another volume, which is mounted there</source>
-        <translation>它位于挂载在该处的另一个卷上</translation>
+        <source>ENOTEMPTY</source>
+        <translation>文件夹不为空（%1）。</translation>
     </message>
     <message>
-        <source>the system refused</source>
-        <translation>系统拒绝了该操作</translation>
+        <source>EOPNOTSUPP</source>
+        <translation>卷不支持该操作（%1）。</translation>
+    </message>
+    <message>
+        <source>EPERM</source>
+        <translation>系统不允许该操作（%1）。可能的原因：项目或文件夹受保护（不可更改、仅可追加或设有粘滞位）；卷不支持符号链接或硬链接；或者受到沙盒限制。</translation>
+    </message>
+    <message>
+        <source>EROFS</source>
+        <translation>卷是只读的（%1）。</translation>
+    </message>
+    <message>
+        <source>ETXTBSY</source>
+        <translation>文件正作为运行中的程序或交换空间使用（%1）。请退出该程序。</translation>
+    </message>
+    <message>
+        <source>EUCLEAN</source>
+        <translation>卷上的文件系统已损坏，需要修复（%1）。</translation>
+    </message>
+    <message>
+        <source>EXDEV</source>
+        <translation>路径中有挂载点（%1）。安装程序不会跨越文件系统边界。</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>系统报告了错误 %1。</translation>
     </message>
 </context>
 <context>
@@ -228,24 +284,28 @@
         <translation>无法安装 quillbarn</translation>
     </message>
     <message>
-        <source>Removing quillbarn</source>
-        <translation>正在移除 quillbarn</translation>
+        <source>Uninstalling quillbarn</source>
+        <translation>正在卸载 quillbarn</translation>
     </message>
     <message>
-        <source>quillbarn could not be removed</source>
-        <translation>无法移除 quillbarn</translation>
+        <source>quillbarn could not be uninstalled</source>
+        <translation>无法卸载 quillbarn</translation>
     </message>
     <message>
         <source>Ejecting the disk image</source>
         <translation>正在弹出磁盘映像</translation>
     </message>
     <message>
-        <source>Ejecting the disk image: waiting for the volume to be free</source>
-        <translation>正在弹出磁盘映像：正在等待卷空闲</translation>
+        <source>Ejecting the disk image: trying again</source>
+        <translation>正在弹出磁盘映像：正在重试</translation>
     </message>
     <message>
         <source>The disk image could not be ejected</source>
         <translation>无法弹出磁盘映像</translation>
+    </message>
+    <message>
+        <source>quillbarn installer: invalid options</source>
+        <translation>quillbarn 安装程序：选项无效</translation>
     </message>
 </context>
 </TS>

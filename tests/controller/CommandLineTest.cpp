@@ -1,34 +1,30 @@
-#include "ViewController.h"
-#include "fakes/FoundationFake.h"
-#include "support/LogFile.h"
+#include "CommandLine.h"
 
 #include <gtest/gtest.h>
 
-TEST(CommandLine, theFirstOptionDecidesWithoutItsPairOfSingleQuotes)
+using Arguments = std::vector<std::string>;
+
+TEST(CommandLine, FirstOptionDecides)
 {
-    // With what is told of it in the log: nothing, if the arguments are invalid.
-    const std::vector<std::pair<Lines, Lines>> cases {
-        { { "me", "-install2", "/p" }, { "d unmount /p" } },
-        { { "'-uninstall'" }, { "d uninstall " } },
-        { { "me", "-install", "-uninstall" }, { "d install -uninstall" } },
-        { { "me", "-uninstall", "-install", "/p/" }, { "d uninstall " } },
-        { { "me", "unknown", "", "-install", "/a", "/b" }, { "d install /a" } },
-        { { "me", "-install", "''/it's \xFF/''" }, { "d install '/it's \xFF/'" } },
-        { { "me", "-install", "'" }, { "d install '" } },
-        { { "me", "-install", "''" }, { "d install " } },
-        { { "me", "-install", "'/p/" }, { "d install '/p/" } },
-        { { "me", "-install", "/p/'" }, { "d install /p/'" } },
-        { { "me", "-install", "'\u0301/p/'" }, { "d install '\u0301/p/'" } },
-        { { "me", "-install", "'/p/\u0600'" }, { "d install '/p/\u0600'" } },
-        { {}, {} },
-        { { "me", "-install" }, {} },
-        { { "me", "-Install", "/p/" }, {} },
-        { { "me", "-installer", "/p/" }, {} },
+    const std::vector<std::tuple<Arguments, Mode, std::string>> options {
+        { { "me", "-install2", "/p" }, Mode::unmount, "/p" },
+        { { "'-uninstall'" }, Mode::uninstall, "" },
+        { { "me", "-install", "-uninstall" }, Mode::install, "-uninstall" },
+        { { "me", "-uninstall", "-install", "/p/" }, Mode::uninstall, "" },
+        { { "me", "unknown", "", "-install", "/a", "/b" }, Mode::install, "/a" },
+        { { "-install", "''/it's \xFF/''" }, Mode::install, "'/it's \xFF/'" },
+        { { "-install", "'" }, Mode::install, "'" },
+        { { "-install", "'/p/" }, Mode::install, "'/p/" },
+        { { "-install", "/p/'" }, Mode::install, "/p/'" },
+        { { "-install", "'\u0301/p/'" }, Mode::install, "'\u0301/p/'" },
+        { { "-install", "'/p/\u0600'" }, Mode::install, "'/p/\u0600'" },
     };
-    for (const auto& [arguments, log] : cases) {
-        clearLog();
-        foundation.arguments = arguments;
-        ViewController::initWithNibName("MainInterface", nullptr)->parseCommandLine();
-        EXPECT_EQ(readLog(), log) << testing::PrintToString(arguments);
+    for (const auto& [arguments, mode, path] : options) {
+        const auto option = parseCommandLine(arguments);
+        ASSERT_TRUE(option) << testing::PrintToString(arguments);
+        EXPECT_EQ(std::pair(option->mode, option->path), std::pair(mode, path));
     }
+    for (const Arguments& arguments :
+        { Arguments {}, { "me", "-install" }, { "-Install", "/p/" }, { "-installer", "/p/" } })
+        EXPECT_FALSE(parseCommandLine(arguments)) << testing::PrintToString(arguments);
 }

@@ -1,21 +1,9 @@
 #include "fakes/FoundationFake.h"
 
 #include <Foundation/NSFileManager.h>
-#include <Foundation/NSProcessInfo.h>
 #include <Foundation/NSThread.h>
 
-#include <algorithm>
 #include <unistd.h>
-
-const NSProcessInfo& NSProcessInfo::processInfo()
-{
-    static const NSProcessInfo info;
-    return info;
-}
-
-int NSProcessInfo::processIdentifier() const { return 4711; }
-
-std::vector<std::string> NSProcessInfo::arguments() const { return foundation.arguments; }
 
 bool NSThread::isMainThread() { return gettid() == getpid(); }
 
@@ -25,7 +13,7 @@ std::vector<NSURL> NSFileManager::mountedVolumeURLsIncludingResourceValuesForKey
     const std::vector<NSURLResourceKey>&, NSVolumeEnumerationOptions) const
 {
     std::vector<NSURL> volumes;
-    std::ranges::transform(
-        foundation.mountPoints, std::back_inserter(volumes), &NSURL::fileURLWithPath);
+    for (const std::string& mountPoint : foundation.mountPoints)
+        volumes.push_back(NSURL::fileURLWithPath(mountPoint));
     return volumes;
 }

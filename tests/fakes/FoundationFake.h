@@ -4,13 +4,12 @@
 #include <string>
 #include <vector>
 
-// What is told by the parts of Foundation that depend on the machine and the time.
+// Replaces the functions of Foundation that depend on the mounted volumes or the time.
 struct FoundationFake {
-    std::vector<std::string> arguments = {};
     std::vector<std::string> mountPoints = {};
 
-    // Called on a thread that is to make a pause of so many seconds. No pause is made.
-    std::function<void(double)> onPause = [](double) {};
+    // Called in place of a pause, on its thread.
+    std::function<void(double seconds)> onPause = [](double) {};
 };
 
-inline FoundationFake foundation; // the one that answers
+inline FoundationFake foundation; // the one in use

@@ -7,16 +7,14 @@
 #include <functional>
 #include <vector>
 
-// Writes down what a task tells, with the thread it tells it on and what the test notes at that
-// moment.
-class RecordedReport : public TaskReport {
-public:
+// Records what a task reports: one line per call, with the thread ("main" or "task") and a note.
+struct RecordedReport : TaskReport {
     std::vector<std::string> lines;
-    std::function<std::string()> note = [] { return ""; };
+    std::function<std::string()> note = [] { return ""; }; // evaluated in each call
 
-    void add(const std::string& told)
+    void add(const std::string& line)
     {
-        lines.push_back((NSThread::isMainThread() ? "main: " : "task: ") + told + note());
+        lines.push_back((NSThread::isMainThread() ? "main: " : "task: ") + line + note());
     }
 
     void showMessage(const std::string& message) override { add("“" + message + "”"); }
@@ -24,11 +22,9 @@ public:
     {
         add(std::to_string(index) + " of " + std::to_string(count));
     }
-    void showWaiting() override { add("waiting"); }
-    void closeWindow() override { add("close window"); }
-    void finish() override { add("finish"); }
-    void showFailure(const NSError& error) override
+    void showRetrying() override { add("retrying"); }
+    void end(const std::optional<NSError>& failure) override
     {
-        add("failure: " + error.localizedDescription());
+        add(failure ? "failure: " + failure->localizedDescription() : "end");
     }
 };

@@ -4,81 +4,67 @@ import os
 import re
 import tempfile
 
-from machine import InstallerTest, await_that, keep_running, read, read_log, require, run, start_bus, write
+from harness import InstallerTest, await_that, keep_running, read_log, require, run, start_bus, write
 
-BUS = "/run/dbus/system_bus_socket"
 UDISKSD = "/usr/libexec/udisks2/udisksd"
 UDEVD = "/usr/lib/systemd/systemd-udevd"
-LOOPS = "/dev/loop-control"
+ATTACH = "losetup --find --show image"  # the loop device keeps the image after an unmount
+KINDS = {
+    "attached": f'mksquashfs content image; mount $({ATTACH}) "$place"',
+    "self-detaching": 'mksquashfs content image; mount -o loop image "$place"',
+    "partitioned": "mksquashfs content image -offset 1M; echo start=1MiB | sfdisk --label dos image; "
+                   f'disk=$({ATTACH}); partx --update $disk; mount ${{disk}}p1 "$place"',
+    "default subvolume": 'mkfs.btrfs --rootdir content image; mount image "$place"; cd "$place"; '
+                         "btrfs subvolume snapshot . default; btrfs subvolume set-default default; cd -; "
+                         f'umount "$place"; mount $({ATTACH}) "$place"'}
 
 
 class DiskImage:
-    """An image that contains a bundle, mounted until the end of the test and known to the service.
-
-    `kind` is "attached" (the loop device keeps the image after an unmount), "mounted twice",
-    "self-detaching", "partitioned" (the bundle is in a partition) or "btrfs" (the bundle is in a
-    default subvolume).
-    """
+    """An image that contains a bundle, mounted until the end of the test and known to the service."""
 
     def __init__(self, test, mount_point="/Volumes/quillbarn installer", kind="attached"):
-        self.file = os.path.join(tempfile.mkdtemp(), "image")
-        self.mount_point = mount_point
+        folder = tempfile.mkdtemp()
+        self.file, self.mount_point = folder + "/image", mount_point
         self.bundle = mount_point + "/quillbarn.app"
-        write("/tmp/content/quillbarn.app/quillbarn", "the program")
+        write(folder + "/content/quillbarn.app/quillbarn", "the program")
         os.makedirs(mount_point, exist_ok=True)
-        if kind == "btrfs":
-            run("mkfs.btrfs", "--rootdir=/tmp/content", self.file)
-            run("mount", self.file, mount_point)
-            run("btrfs", "subvolume", "snapshot", mount_point, mount_point + "/default")
-            run("btrfs", "subvolume", "set-default", mount_point + "/default")
-            run("umount", mount_point)
-        else:
-            run("mksquashfs", "/tmp/content", self.file, "-quiet", "-offset", "1M" if kind == "partitioned" else "0")
-        self.device = run("losetup", "--find", "--show", self.file)
-        test.addCleanup(self._clean_up)
-        self.volume = self.device + ("p1" if kind == "partitioned" else "")
-        if kind == "partitioned":
-            run("sfdisk", self.device, input="label: dos\nstart=1MiB\n")
-            run("partx", "--update", self.device)  # a kernel without support for the table
-        if kind == "mounted twice":
-            run("mount", "--mkdir", self.volume, "/Volumes/first")
-        run("mount", self.volume, mount_point)
-        if kind == "self-detaching":
-            run("losetup", "--detach", self.device)  # sets autoclear, because the device is busy
-            write(f"/sys/block/{os.path.basename(self.device)}/uevent", "change")
+        test.addCleanup(lambda: run("losetup", "--detach", self.device(), check=False))
+        test.addCleanup(run, "umount", "--lazy", "--all-targets", mount_point, check=False)
+        run("sh", "-ec", KINDS[kind], cwd=folder, env=os.environ | {"place": mount_point})
+        volume = self.device() + "p1" * (kind == "partitioned")
         # The service notices devices and their state asynchronously.
-        known = "(?s)MountPoints: +/" + (".* Autoclear: +true" if kind == "self-detaching" else "")
-        await_that(lambda: re.search(known, run("udisksctl", "info", "-b", self.volume, check=False)))
+        for device, state in (self.device(), "BackingFile: +/"), (volume, "MountPoints: +/"):
+            await_that(lambda: re.search(state, run("udisksctl", "info", "-b", device, check=False)))
 
-    def _clean_up(self):
-        run("umount", "--lazy", "--all-targets", self.volume, check=False)  # if it is still mounted
-        if self.is_attached():
-            run("losetup", "--detach", self.device)
+    def device(self):
+        """Returns the loop device, or nothing if the image is detached."""
+        return run("losetup", "--noheadings", "--output=NAME", "--associated", self.file)
 
-    def is_attached(self):
-        backing_file = f"/sys/block/{os.path.basename(self.device)}/loop/backing_file"
-        return os.path.exists(backing_file) and read(backing_file) == self.file + "\n"
+    def log(self, end="d unmount succeeded"):
+        """Returns the log of a run with this image."""
+        step = "unmount " + self.bundle
+        return ["n installer start", "d " + step, "n " + step, "d " + step, end, "n installer exit"]
 
 
 class DetachTest(InstallerTest):
     @classmethod
     def setUpClass(cls):
-        require(UDISKSD, UDEVD, LOOPS, "dbus-daemon", "faketime", "mkfs.btrfs", "mksquashfs", "sfdisk", "losetup")
-        super().setUpClass()
-        os.makedirs(os.path.dirname(BUS))
-        start_bus("--address=unix:path=" + BUS)
+        require(UDISKSD, UDEVD, "/dev/loop-control", "faketime", "mkfs.btrfs", "mksquashfs", "sfdisk")
+        run("mount", "-t", "tmpfs", "none", "/dev/shm")  # libfaketime leaves files there
+        os.mkdir("/run/dbus")
+        start_bus("--address=unix:path=/run/dbus/system_bus_socket")
         keep_running(UDEVD)
         await_that(lambda: os.path.exists("/run/udev/control"))
         keep_running(UDISKSD)
         await_that(lambda: run("udisksctl", "status", check=False))
 
-    @staticmethod
-    def log_of(image, end="d unmount succeeded"):
-        step = "unmount " + image.bundle
-        return ["n installer start", "d " + step, "n " + step, "d " + step, end, "n installer exit"]
+    def start_with_fast_clock(self, bus, image):
+        """A pause of 5 seconds ends after 0.1 seconds."""
+        clock = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME": "+0 x50"}
+        return self.start("-install2", image.bundle, env=clock | {"DBUS_SYSTEM_BUS_ADDRESS": bus})
 
     def expect_detach(self, image, installer):
         self.expect_orderly_end(installer)
-        self.assertEqual(read_log(), self.log_of(image))
+        self.assertEqual(read_log(), image.log())
         self.assertFalse(os.path.ismount(image.mount_point))
-        await_that(lambda: not image.is_attached())  # asynchronous; the service may hold the device open
+        await_that(lambda: not image.device())  # asynchronous; the service may hold the device open

@@ -1,128 +1,107 @@
+"""The window on X and Wayland, and displays that are missing or lost."""
+
 import json
 import os
-import subprocess
 import tempfile
-from glob import glob
 
-from machine import (
-    LOG, SOURCE, InstallerTest, Screen, await_that, keep_running, mount, mount_memory, read_log, remove,
-    require, write, write_files)
+from harness import *
 
 PLUGINS = "/usr/lib/*/qt6/plugins/platforms/libqwayland*"
-SCALE = 1.5
-WIDTH, HEIGHT = 600, 400  # in points; the window fits only if its pane opens less far than usual
-MARGIN = 20  # of the window, below the button
+HEIGHT = 400  # in points; the pane has less room than usual
+WAYLAND = {"WAYLAND_DISPLAY": "wayland-0"}
+WITHOUT_PLUGINS = "unshare", "--mount", "sh", "-ec", (
+    f'for plugin in {PLUGINS}; do mount --bind /dev/null "$plugin"; done; exec "$0" "$@"')
+MISSING = (  # the environment, the error, and the start of the command
+    (WAYLAND, "on the Wayland display “wayland-0”. Check that WAYLAND_DISPLAY names"),
+    (WAYLAND, "on the Wayland display “wayland-0”. Install the package qt6-wayland.", *WITHOUT_PLUGINS),
+    ({}, "without a display. Start the installer in a desktop session, or"),
+    ({"DISPLAY": ":4711"}, "on the display “:4711”. Check that DISPLAY names a running"),
+    ({"QT_QPA_PLATFORM": "none"}, "with the Qt platform plugin “none”. Install the plugin, or"))
 
 
 class Sway(Screen):
     """A Wayland compositor in memory."""
 
     def __init__(self):
-        write("/tmp/sway", f"xwayland disable\ndefault_floating_border none\n"
-              f"output * resolution {WIDTH * SCALE:.0f}x{HEIGHT * SCALE:.0f} scale {SCALE}\n")
+        require("sway", "wtype", PLUGINS)
+        write("/tmp/sway", "xwayland disable\nfor_window [title=.*] floating enable\n"
+              f"output * resolution 900x{HEIGHT * 1.5:.0f} scale 1.5\n")
         folder = tempfile.mkdtemp()
-        self.environment = os.environ | {
-            "XDG_RUNTIME_DIR": folder, "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman",
+        self.environment = os.environ | ON_DISPLAY | {
+            "XDG_RUNTIME_DIR": folder, "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman", "DISPLAY": "",
             "WLR_LIBINPUT_NO_DEVICES": "1", "SWAYSOCK": folder + "/control", "WAYLAND_DISPLAY": "wayland-1"}
-        del self.environment["DISPLAY"]
         # It refuses to start where it can become root.
         self.server = keep_running("unshare", "--user", "sway", "--config", "/tmp/sway", env=self.environment)
-        await_that(self.picture)
-        # A keyboard that stays: the first key of a new one may come before the window knows it.
+        await_that(lambda: self.run("swaymsg", "--type", "get_outputs"))
+        # A permanent keyboard: the first key of a new one can arrive before the window knows the keyboard.
         keep_running("wtype", "-s", "600000", env=self.environment)
 
+    def places(self):
+        """Returns the rectangle of the title bar, if there is a window, and of what is below it."""
+        screens = json.loads(self.run("swaymsg", "--type", "get_tree"))["nodes"]
+        return [(window["deco_rect"], window["rect"])
+                for screen in screens for desk in screen["nodes"] for window in desk["floating_nodes"]]
+
     def press(self, key):
-        for place in (window["rect"] for window in self.windows()):
-            self.bottom = place["y"] + place["height"]
         self.run("wtype", "-k", key)
-
-    def picture(self):
-        return self.run("grim", "-t", "ppm", "-")
-
-    def windows(self):
-        """Each with its title, and the rectangle it has on the screen."""
-        tree = json.loads(self.run("swaymsg", "-t", "get_tree"))
-        return [window for screen in tree["nodes"] for desk in screen["nodes"] for window in desk["floating_nodes"]]
-
-    def active_title(self):
-        return [window["name"] for window in self.windows()]
-
-    def await_window(self):
-        """Once it is drawn: an empty screen has few colours."""
-        await_that(lambda: len(set(self.picture())) > 100)
 
 
 class Displays(InstallerTest):
-    """Of both kinds, each with what differs from the other."""
+    def test_complete_window_on_wayland(self):
+        write_files(600)
+        run("mount", "-t", "tmpfs", "-o", "size=1m", "none", APPLICATIONS)
+        screen = Sway()
+        installer = self.start(*INSTALL, env=screen.environment)
 
-    @classmethod
-    def setUpClass(cls):
-        require("sway", "grim", "wtype", PLUGINS)
-        super().setUpClass()
+        def bottoms():
+            return [place["y"] + place["height"] for title_bar, place in screen.places() if title_bar["y"] >= 0]
 
-    def test_the_window_on_wayland(self):
-        self.screen = Sway()
-        write(SOURCE + "quillbarn.app/Contents/file", "x" * 2_000_000)
-        mount_memory(self, "/Applications", "1m")
-        self.press_until_closed(self.start("-install", SOURCE, env=self.screen.environment))
-        self.assertAlmostEqual(self.screen.bottom, HEIGHT, delta=MARGIN)  # so that all of the button can be seen
+        # The last size reaches the compositor with a frame, which can be later than the next key.
+        await_that(lambda: max(bottoms(), default=0) >= HEIGHT - 20)
+        places = self.press_until_closed(screen, installer)
+        self.assertLessEqual(max(place["y"] + place["height"] for _, place in places), HEIGHT)
 
-    def test_one_that_dies_is_told_in_the_log(self):
+    def test_lost_display(self):
         write_files(3000)
-        for display in Screen(), Sway():
-            with self.subTest(display):
+        for screen in Screen(), Sway():
+            with self.subTest(screen=screen):
                 remove(LOG)
-                installer = self.start("-install", SOURCE, stderr=subprocess.DEVNULL, env=display.environment)
-                await_that(lambda: os.path.exists(LOG) and len(read_log()) > 100)
-                display.server.kill()
-                self.assertEqual(installer.wait(10), 1)
-                self.assertEqual(read_log()[-2:], [
-                    "e the display was lost, and the run ends here", "n installer exit"])
+                installer = self.start(*INSTALL, env=screen.environment)
+                await_that(lambda: len(read_log()) > 100)
+                screen.server.kill()
+                self.assertEqual((installer.wait(10), read_log()[-2:]),
+                                 (1, ["e display connection lost", "n installer exit"]))
 
-    def test_one_that_cannot_be_had(self):
-        def expect(told, **environment):
-            with self.subTest(told):
-                installer = self.start("-uninstall", env=os.environ | environment, stderr=subprocess.PIPE)
-                output, errors = installer.communicate(timeout=20)
-                self.assertEqual((output, errors.decode(), installer.returncode),
-                                 (b"", f"The window can’t be opened {told}\n", 1))
-                self.assertFalse(os.path.exists(LOG))
+    def test_missing_display(self):
+        require(PLUGINS)
+        usual = {"QT_QPA_PLATFORM": "", "DISPLAY": "", "WAYLAND_DISPLAY": "", "XDG_RUNTIME_DIR": "/tmp"}
+        for environment, error, *command in MISSING:
+            self.expect_no_start("window could not be opened " + error, *UNINSTALL, env=usual | environment,
+                                 command=[*command, INSTALLER])
 
-        wayland = {"DISPLAY": "", "WAYLAND_DISPLAY": "wayland-0", "XDG_RUNTIME_DIR": "/tmp"}
-        expect("on the Wayland display “wayland-0”: check that WAYLAND_DISPLAY names a running compositor.", **wayland)
-        for plugin in glob(PLUGINS):
-            mount(self, plugin, "--bind", "/dev/null")
-        expect("on the Wayland display “wayland-0”: install the package qt6-wayland.", **wayland)
-        expect("without a display: start it in a desktop session, or set DISPLAY.", DISPLAY="")
-        expect("on the display “:4711”: check that DISPLAY names a running X server.", DISPLAY=":4711")
-        expect("by the plugin “none”: install it, or unset QT_QPA_PLATFORM.", QT_QPA_PLATFORM="none")
-
-
-class Window(InstallerTest):
-    """What a person sees of it, and can do to it."""
-
-    def test_its_frame_closes_it_only_once_it_waits(self):
+    def test_close_during_and_after_the_task(self):
         write_files(2000)
-        for arguments, last in (["-install", SOURCE], "d completed"), (["-install"], "d invalid options"):
-            with self.subTest(arguments=arguments):
-                self.press_until_closed(self.start(*arguments), "alt+F4")
-                self.assertEqual(read_log()[-2], last)
+        screen = Screen()
+        for arguments, end in (INSTALL, COMPLETED), (["-install"], ["d invalid options", "n installer exit"]):
+            installer = self.start(*arguments, command=SLOWLY, env=screen.environment)
+            self.press_until_closed(screen, installer, "alt+F4")
+            self.assertEqual(read_log()[-2:], end)
 
-    def test_what_the_toolkit_says_stays_out_of_the_log(self):
-        closed = ["sh", "-c", 'exec "$0" "$@" <&- >&- 2>&-', os.environ["INSTALLER"]]
-        talkative = os.environ | {"XDG_RUNTIME_DIR": "/nowhere", "QT_DEBUG_PLUGINS": "1"}
-        self.assertEqual(self.start("-uninstall", command=closed, env=talkative).wait(20), 0)
-        self.assertEqual(read_log(), [
-            "n installer start", "d uninstall ", "n uninstall bundle", "d completed", "n installer exit"])
+    def test_window_stays_when_pane_opens(self):
+        write_files(6000)
+        run("mount", "-t", "tmpfs", "-o", "size=40m", "none", APPLICATIONS)
+        screen = Screen()
+        installer = self.start(*INSTALL, env=screen.environment)
+        screen.await_window()
+        framed = screen.places()
+        screen.press("F2")  # removes the frame, so that cached margins are wrong
+        place = await_that(lambda: screen.places() != framed and screen.places())
+        self.assertEqual(set(self.press_until_closed(screen, installer)), set(place))
 
-    def test_it_comes_to_the_front_by_itself_or_does_without(self):
-        # Only a window that asks gets the keyboard, and one is not shown at all.
-        write("/tmp/openbox", "<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>no</focusNew></focus>"
-              "<applications><application title='Removing*'><iconic>yes</iconic></application></applications>"
-              "</openbox_config>")
-        screen = Screen("--config-file", "/tmp/openbox")
+    def test_activation_and_hidden_window(self):
+        screen = Screen()
         self.start(env=screen.environment)
-        screen.await_window("quillbarn installer")
+        screen.await_window()
         self.start("-install", "/nowhere/", env=screen.environment)
-        await_that(lambda: screen.active_title() == "quillbarn could not be installed")
-        self.expect_orderly_end(self.start("-uninstall", env=screen.environment))
+        await_that(lambda: screen.run("xdotool", "getactivewindow", "getwindowname") == FAILURE)
+        self.expect_orderly_end(self.start(*UNINSTALL, env=screen.environment))

@@ -1,119 +1,100 @@
-import fcntl
+"""Failures: what the pane shows, and that nothing is changed that need not be."""
+
 import os
-from resource import RLIMIT_FSIZE, setrlimit
+from resource import RLIMIT_FSIZE, RLIMIT_NOFILE, RLIMIT_STACK, setrlimit
 
-from machine import (
-    BUNDLE, INSTALLER, LOG, SOURCE, InstallerTest, mount, mount_memory, read_log, read_tree, remove, run, write)
+from harness import *
 
+BOTH = INSTALL, UNINSTALL
+OUTSIDE = "/tmp/outside"
+SAME = "The folder “{}” could not be installed. The folder is the same as the installed folder “{}”"
+IS_SYMLINK = f"The application “{BUNDLE}” could not be changed. The application is a symlink to “{OUTSIDE}”."
+SPECIAL = f"“{NEW}/other” could not be copied. The source is a device, a pipe or a socket."
+DANGLING = "“{}” could not be installed. A dangling symlink with the same name already exists."
 FILE = "quillbarn.app/Contents/file"
-INSTALL, UNINSTALL = ("-install", SOURCE), ("-uninstall",)
-
-LANGUAGES = {  # what the desktop asks for, and what it gets
-    "ar_EG": ("تعذّر تثبيت quillbarn", "تعذّر فتح المجلد «\u2066{}\u2069»: إنّه غير موجود (\u2068{}\u2069)."),
-    "xx:de_AT:fr": ("quillbarn konnte nicht installiert werden",
-                    "Der Ordner „{}“ konnte nicht geöffnet werden: Das Objekt existiert nicht ({})."),
-    "es": ("No se pudo instalar quillbarn", "No se pudo abrir la carpeta «{}»: el elemento no existe ({})."),
-    "fr": ("quillbarn n’a pas pu être installé",
-           "Le dossier «\xa0{}\xa0» n’a pas pu être ouvert\xa0: l’élément n’existe pas ({})."),
-    "ja": ("quillbarn をインストールできませんでした", "フォルダー「{}」を開けませんでした: 存在しません ({})。"),
-    "zh_CN": ("无法安装 quillbarn", "无法打开文件夹“{}”：它不存在（{}）。"),
-}
+# Commands in the new bundle, the failure that they cause before the first change, and the runs.
+REFUSALS = (
+    ("", "The folder “/tmp/sourcequillbarn.app/” could not be read.", ("-install", SOURCE.rstrip("/"))),
+    ("", SAME.format(BUNDLE, BUNDLE), ("-install", APPLICATIONS + "/")),
+    (f"ln -s {BUNDLE} link", SAME.format(NEW + "/link", BUNDLE)),
+    (f"mkdir {BUNDLE}/sub sub; mount --bind {BUNDLE}/sub sub", SAME.format(NEW + "/sub", BUNDLE + "/sub")),
+    (f"bindfs {APPLICATIONS} /tmp/mounted", SAME.format("/tmp/mounted/quillbarn.app", BUNDLE),
+     ("-install", "/tmp/mounted/")),
+    (f"rm -r {BUNDLE}; bindfs {SOURCE} {APPLICATIONS}", SAME.format(NEW, BUNDLE)),
+    (f"mkdir /tmp/lower /tmp/work; mount -t overlay none {APPLICATIONS} "
+     f"-o lowerdir=/tmp/lower,upperdir={SOURCE},workdir=/tmp/work", SAME.format(NEW, BUNDLE)),
+    ("mkfifo other", SPECIAL), ("mknod other c 1 3", SPECIAL),
+    ("python3 -c 'import socket; socket.socket(socket.AF_UNIX).bind(\"other\")'", SPECIAL),
+    ("ln -s . link", f"“{NEW}/link” could not be followed. The target “{NEW}/” is a folder that contains"),
+    ("for i in $(seq 20); do mkdir $i; ln -s ../$((i + 1)) $i/a; cp -P $i/a $i/b; done", "Too many symlinks"),
+    (f"ln -s {300 * 'x'} link", f"“{NEW}/link” could not be examined. A name or a path is too long"),
+    (f"truncate -s 8M /tmp/exfat; mkfs.exfat /tmp/exfat; disk=$(losetup -f --show /tmp/exfat); "
+     f"trap 'losetup -d $disk' EXIT; rm -r {BUNDLE}; mount.exfat-fuse $disk {APPLICATIONS}; "
+     f"mkdir -p {BUNDLE}/left Res res; touch Res/a res/b", "The volume does not distinguish this name from"),
+    (f"ln -s {OUTSIDE} {BUNDLE}/link", f"symlink “{BUNDLE}/link” in the application points", *BOTH),
+    (f"rm -r {BUNDLE}; ln -s {OUTSIDE} {BUNDLE}", IS_SYMLINK, *BOTH),
+    (f"rm -r {BUNDLE} {OUTSIDE}; ln -s {OUTSIDE} {BUNDLE}", IS_SYMLINK, *BOTH),
+    (f"rm -r {BUNDLE}; touch {BUNDLE}", f"“{BUNDLE}/” could not be read. The item, or a part of the", *BOTH),
+    (f"touch notes; ln -s gone {BUNDLE}/notes", DANGLING.format(BUNDLE + "/notes")),
+    (f"touch ../license; ln -s ../license; ln -s ../license {BUNDLE}", DANGLING.format(BUNDLE + "/license")))
 
 
 class Failure(InstallerTest):
-    """Each tells what, where and why in the pane, waits, and leaves on the disk what it should."""
-
     def setUp(self):
+        require("bindfs", "mkfs.exfat", "mount.exfat-fuse")
         super().setUp()
-        write(SOURCE + FILE, "x" * 2_000_000)
-        write(BUNDLE + "/kept", "installed")
+        remove(OUTSIDE, "/tmp/lower", "/tmp/work")
+        write(NEW + "/Contents/file", "x" * 2_000_000)
+        write(BUNDLE + "/kept", "old")
+        write(OUTSIDE + "/file")
 
-    def expect(self, description, *runs, step=None, left=None, key="Return", title=INSTALLER, **options):
-        """At the end of each of the runs, after that step. Nothing has changed unless told."""
-        left = left or read_tree("/Applications")
-        for arguments in runs or (INSTALL, UNINSTALL):
-            with self.subTest(arguments=arguments, description=description):
-                remove(LOG)
-                self.press_until_closed(self.start(*arguments, **options), key, title)
-                self.assertEqual(read_log()[-4:], [
-                    step or f"n {arguments[0][1:]} bundle", "d ", "d " + description, "n installer exit"])
-                self.expect_same(read_tree("/Applications"), left)
+    def expect(self, commands, failure, *runs, step=None, left=None, **options):
+        """Expects the failure after that step. Unless stated otherwise, the installed copy is unchanged."""
+        for arguments in runs or (INSTALL,):
+            with self.subTest(commands=commands, arguments=arguments):
+                self.setUp()
+                run("sh", "-ec", commands, cwd=NEW)
+                installed, outside = read_tree(APPLICATIONS), read_tree(OUTSIDE)
+                *_, last, empty, text = self.run_until_failure(*arguments, **options)
+                self.assertEqual((last, empty), (step or f"n {arguments[0][1:]} bundle", "d "))
+                self.assertIn(failure, text)
+                self.expect_same(read_tree(APPLICATIONS), left or installed)
+                self.assertEqual(read_tree(OUTSIDE), outside)
 
-    def test_a_source_that_cannot_be_followed_or_holds_what_is_installed(self):
-        write(BUNDLE + "/folder/file")
-        mount(self, "/tmp/partly/quillbarn.app/mounted", "--bind", BUNDLE + "/folder")
-        os.makedirs("/tmp/linked/quillbarn.app")
-        os.symlink(BUNDLE, "/tmp/linked/quillbarn.app/link")
-        for source, name, same in (("/Applications/", "", ""), ("/tmp/linked/", "/link", ""),
-                                   ("/tmp/partly/", "/mounted", "/folder")):
-            self.expect(f"“{source}quillbarn.app{name}” couldn’t be installed because it is “{BUNDLE}{same}”, "
-                        "which would be emptied first.", ("-install", source))
-        os.symlink("..", SOURCE + "quillbarn.app/Contents/loop")
-        self.expect(f"The link “{SOURCE}quillbarn.app/Contents/loop” couldn’t be followed because it leads "
-                    f"back to “{SOURCE}quillbarn.app/”, a folder that holds it.", INSTALL, key="space")
-        remove(SOURCE + "quillbarn.app/Contents/loop")
-        os.symlink(300 * "x", SOURCE + "quillbarn.app/Contents/long")
-        self.expect(f"“{SOURCE}quillbarn.app/Contents/long” couldn’t be looked at because its name or path is too "
-                    "long (File name too long).", INSTALL)
+    def test_refusal_before_first_change(self):
+        for case in REFUSALS:
+            self.expect(*case)
+        self.expect("touch other; chmod 0 other", f"“{NEW}/other” could not be read.", user="nobody")
+        for language, failure in (("xx:de_AT:fr", "Der Ordner „{}“ konnte nicht gelesen werden. Das Objekt"),
+                                  ("ar_EG", "تعذّرت قراءة المجلد «\u2066{}\u2069». العنصر أو أحد")):
+            self.expect("rm -r $PWD", failure.format(NEW + "/"), env={"LANGUAGE": language})
 
-    def test_it_is_told_in_the_language_of_the_desktop(self):
-        for language, (title, description) in LANGUAGES.items():
-            desktop = os.environ | {"LANGUAGE": language}
-            words = run("sh", "-c", "cat /nowhere 2>&1 || true", env=desktop).split(": ")[-1]  # the library's
-            self.expect(description.format("/nowhere/quillbarn.app/", words), ("-install", "/nowhere/"),
-                        title=title, env=desktop)
+    def test_failure_at_an_entry(self):
+        self.expect("", "file size limit (EFBIG). The copy of quillbarn in “/Applications” is incomplete.",
+                    step=f"d  copy {APPLICATIONS}/{FILE}", left=dict.fromkeys([FILE[:13], FILE[:22]]),
+                    preexec_fn=lambda: setrlimit(RLIMIT_FSIZE, (1_000_000, 1_000_000)))
+        self.expect(f"cd {BUNDLE}; rm *; mkdir sub; mount --bind {OUTSIDE} sub", "A mount point is on the",
+                    *BOTH, step=f"d remove {BUNDLE}/sub/file")
 
-    def test_a_limit_to_the_size_of_a_file(self):
-        self.expect(
-            f"“{SOURCE + FILE}” couldn’t be copied to “/Applications/{FILE}” because it is larger than a "
-            "file may be (File too large).", INSTALL, step="d  copy /Applications/" + FILE,
-            left={"quillbarn.app": None, "quillbarn.app/Contents": None},
-            preexec_fn=lambda: setrlimit(RLIMIT_FSIZE, (1_000_000, 1_000_000)))
+    def test_symlinks_that_prevent_no_run(self):
+        for path in NEW, BUNDLE:
+            os.symlink("..file", path + "/link")  # dangling in a copy that a killed install left
+        write(NEW + "/..file")
+        self.assertIn("d completed", self.run_installer(*INSTALL))
+        self.expect_same(read_tree(BUNDLE), read_tree(NEW))
+        self.addCleanup(os.chdir, "/")
+        os.chdir(BUNDLE)
+        for _ in range(250):  # more than 4,095 bytes
+            os.mkdir(20 * "d")
+            os.chdir(20 * "d")
+        os.symlink(OUTSIDE, "link")
+        self.assertIn(f"points to “{OUTSIDE}”, outside", self.run_until_failure(*UNINSTALL)[-1])
+        run("ln", "-sfn", BUNDLE + "/link", "link")
+        self.assertIn("d completed", self.run_installer(*UNINSTALL))
 
-    def test_what_cannot_be_removed(self):
-        write("/tmp/outside/file")
-        mount(self, BUNDLE + "/mounted", "--bind", "/tmp/outside")
-        remove(BUNDLE + "/kept")
-        self.expect(f"“{BUNDLE}/mounted/file” couldn’t be removed because it lies on another volume, which is "
-                    "mounted there (Invalid cross-device link).", step=f"d remove {BUNDLE}/mounted/file")
-        mount_memory(self, "/Applications", "1m")
-        write(BUNDLE + "/kept", "installed")
-        run("mount", "-o", "remount,ro", "/Applications")
-        self.expect(f"“{BUNDLE}/kept” couldn’t be removed because the volume is read only (Read-only file "
-                    "system).", step=f"d remove {BUNDLE}/kept", key="Escape")
-
-    def test_another_program_is_at_work(self):
-        folder = os.open("/Applications", os.O_RDONLY)
-        self.addCleanup(os.close, folder)
-        fcntl.flock(folder, fcntl.LOCK_EX)
-        self.expect("The folder “/Applications/” couldn’t be opened because another program holds it locked.")
-
-    def test_something_else_in_the_place_of_the_bundle(self):
-        outside = "/tmp/outside"
-        write(outside + "/letter", "dear")
-        os.symlink(outside, BUNDLE + "/link")
-        self.expect(f"“{BUNDLE}” couldn’t be changed because the link “{BUNDLE}/link” leads out of it, to “{outside}”.")
-        remove(BUNDLE)
-        os.symlink(outside, BUNDLE)
-        for change in None, outside + "/letter", outside:  # as it is, to nothing, to nowhere
-            remove(change or "")
-            found = read_tree("/tmp/outside")
-            self.expect(f"“{BUNDLE}” couldn’t be changed because it is a link, to “{outside}”.")
-            self.assertEqual(read_tree("/tmp/outside"), found)
-        remove(BUNDLE)
-        write(BUNDLE, "a file")
-        self.expect(f"The folder “{BUNDLE}/” couldn’t be opened because a part of its path is not a folder "
-                    "(Not a directory).")
-
-    def test_a_link_that_leads_nowhere_in_the_place_of_an_entry(self):
-        os.symlink("../License.txt", SOURCE + "quillbarn.app/License.txt")
-        write(SOURCE + "License.txt")
-        write(SOURCE + "quillbarn.app/notes")
-        self.run_installer(*INSTALL)
-        for name, target in ("License.txt", "../License.txt"), ("notes", "gone"):
-            remove(f"{BUNDLE}/{name}")
-            os.symlink(target, f"{BUNDLE}/{name}")
-            self.expect(f"“{BUNDLE}/{name}” couldn’t be installed because a link that leads nowhere has its "
-                        "place. Uninstall first, which removes the link, too.", INSTALL)
-            for arguments in UNINSTALL, INSTALL:
-                self.assertEqual(self.run_installer(*arguments)[-2], "d completed")
+    def test_few_resources(self):
+        self.expect_no_start(r".* could not be started. The installer has too many open files \(EMFILE\).",
+                             preexec_fn=lambda: setrlimit(RLIMIT_NOFILE, (20, 20)))
+        write(NEW + 200 * "/d" + "/file")
+        for limit in (RLIMIT_NOFILE, (128, 128)), (RLIMIT_STACK, (128 << 10, 128 << 10)):
+            self.assertIn("d completed", self.run_installer(*INSTALL, preexec_fn=lambda: setrlimit(*limit)))

@@ -2,6 +2,5 @@
 
 #include <QTest>
 
-// Runs the loop of the main thread until the condition holds, for ten seconds at most. Whether it
-// does.
+// Runs the main loop until the condition holds, for at most ten seconds. Returns whether it holds.
 bool runMainLoopUntil(const auto& condition) { return QTest::qWaitFor(condition, 10'000); }

@@ -1,22 +1,20 @@
 #include "support/Tree.h"
 
 #include <fstream>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
 
 void writeFile(const std::string& path, std::string_view content)
 {
     fs::create_directories(fs::path(path).parent_path());
-    if (!(std::ofstream(path) << content << std::flush))
-        throw std::runtime_error("can't write " + path);
+    std::ofstream(path) << content;
 }
 
 std::string readFile(const std::string& path)
 {
-    std::ifstream file(path);
-    if (!file) throw std::runtime_error("can't read " + path);
-    return { std::istreambuf_iterator(file), {} };
+    std::string content(fs::file_size(path), '\0'); // throws if there is no file
+    std::ifstream(path).read(content.data(), std::streamsize(content.size()));
+    return content;
 }
 
 std::map<std::string, std::string> readTree(const std::string& folder)

@@ -5,13 +5,13 @@
 #include <string>
 #include <string_view>
 
-// Draws and reads trees of files. Paths are bytes. What can't be done throws.
+// Writes and reads trees of files. Paths are bytes.
 
-// With the folders on the way to it.
+// Creates missing folders on the path.
 void writeFile(const std::string& path, std::string_view content = "");
 
 std::string readFile(const std::string& path);
 
-// Everything below a folder, by its path from there: "folder", "-> target" for a link, and the
+// Returns everything beneath a folder by relative path: "folder", "-> target" for a symlink, or the
 // content of a file.
 std::map<std::string, std::string> readTree(const std::string& folder);

@@ -1,6 +1,7 @@
 #include "MainQueue.h"
 
 #include <QApplication>
+#include <QTranslator>
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -11,6 +12,8 @@ int main(int argc, char* argv[])
     setenv("QT_QPA_PLATFORM", "offscreen", 1); // says at every step what it can't do
     setenv("QT_LOGGING_RULES", "default.warning=false", 1);
     const QApplication application(argc, argv);
+    QTranslator english;
+    if (english.load(":/i18n/en")) QCoreApplication::installTranslator(&english);
     QApplication::setQuitOnLastWindowClosed(false);
     activateDispatchQueues();
     return RUN_ALL_TESTS();

@@ -1,129 +1,108 @@
 #include "BundleTask.h"
+#include "MountPoint.h"
 #include "UnmountTask.h"
-#include "fakes/DiskArbitrationFake.h"
 #include "fakes/FoundationFake.h"
 #include "fakes/RecordedReport.h"
-#include "support/LogFile.h"
 #include "support/MainLoop.h"
+#include "support/Tree.h"
 
 #include <gtest/gtest.h>
 #include <thread>
 
 namespace {
 
-// Whole runs of the tasks, without a window.
-class Tasks : public testing::Test {
-protected:
+const std::string apps = "/tmp/apps/", bundle = apps + "b", logFile = "/tmp/quillbarninstaller.log";
+
+struct Tasks : testing::Test {
     Tasks()
     {
-        foundation.onPause = [report = report](double seconds) {
+        foundation.onPause = [this](double seconds) {
             report->add("pause " + testing::PrintToString(seconds));
+            if (--pausesToUnmount == 0) std::filesystem::remove_all(bundle);
         };
-        std::filesystem::remove_all("/Applications/quillbarn.app");
-        writeFile("/Applications/quillbarn.app/x", "old");
-        writeFile("/tmp/source/quillbarn.app/x", "new");
+        writeFile(bundle + "/x", "old");
+        writeFile("/tmp/source/b/x", "new");
     }
+    ~Tasks() override { foundation = {}; }
 
     const std::shared_ptr<RecordedReport> report = std::make_shared<RecordedReport>();
-};
-
-constexpr int onlyInDryRun = -1;
-
-// What is told, and how many entries there are on the disk by then. A dry run tells the same and
-// leaves them as they are.
-const std::vector<std::pair<std::string, int>> steps {
-    { "“remove /Applications/quillbarn.app/x”", 2 },
-    { "“mkdir /Applications/quillbarn.app”", 1 },
-    { "0 of 2", 1 },
-    { "“ copy /Applications/quillbarn.app/x”", 1 },
-    { "pause 0.1", onlyInDryRun },
-    { "1 of 2", 2 },
-    { "pause 1", 2 },
-    { "“completed”", 2 },
-    { "close window", 2 },
-    { "“remove /Applications/quillbarn.app/x”", 2 },
-    { "0 of 2", 1 },
-    { "“remove /Applications/quillbarn.app/”", 1 },
-    { "1 of 2", 0 },
-    { "pause 1", 0 },
-    { "“completed”", 0 },
-    { "finish", 0 },
+    int pausesToUnmount = 0;
 };
 
 }
 
-TEST_F(Tasks, showEachStepBeforeItIsMadeOrAsIfItWere)
+TEST_F(Tasks, ReportEachStepInOrder)
 {
-    report->note = [] { return " | " + std::to_string(readTree("/Applications").size()); };
-    for (const DryRun dryRun : { DryRun::yes, DryRun::no }) {
-        std::thread([&] {
-            BundleTask(*report, "/Applications/", "quillbarn.app", dryRun).install("/tmp/source/");
-            BundleTask(*report, "/Applications/", "quillbarn.app", dryRun).uninstall();
-        }).join();
-        const bool isDry = dryRun == DryRun::yes;
-        Lines expected;
-        for (const auto& [told, entries] : steps)
-            if (isDry || entries != onlyInDryRun)
-                expected.push_back("task: " + told + " | " + std::to_string(isDry ? 2 : entries));
-        EXPECT_EQ(std::exchange(report->lines, {}), expected);
-    }
+    report->note = [] { return " " + std::to_string(readTree(apps).size()); }; // entries
+    std::thread([&] {
+        BundleTask(*report, apps, "b", DryRun::no).install("/tmp/source/");
+        BundleTask(*report, apps, "b", DryRun::no).uninstall();
+    }).join();
+    std::string steps;
+    for (const std::string& line : report->lines)
+        steps += line.substr(line.find(' ')) + ",";
+    EXPECT_EQ(steps,
+        " “remove /tmp/apps/b/x” 2, “mkdir /tmp/apps/b” 1, 0 of 2 1, “ copy /tmp/apps/b/x” 1,"
+        " 1 of 2 2, pause 1 2, “completed” 2, end 2, “remove /tmp/apps/b/x” 2, 0 of 2 1,"
+        " “remove /tmp/apps/b/” 1, 1 of 2 0, pause 1 0, “completed” 0, end 0,");
 }
 
-TEST_F(Tasks, whateverIsThrownEndsTheRunWithWords)
+TEST_F(Tasks, ReportEveryException)
 {
-    for (auto [thrown, reason] : {
-             std::pair(std::make_exception_ptr(std::bad_alloc()), "the memory is used up."),
-             std::pair(std::make_exception_ptr(std::runtime_error("odd")), "of: odd"),
+    for (auto [exception, reason] : {
+             std::pair(std::make_exception_ptr(std::bad_alloc()), "There is not enough memory."),
+             std::pair(std::make_exception_ptr(std::runtime_error("odd")), "Internal error: odd"),
          }) {
-        report->note = [&next = thrown] {
-            if (next) std::rethrow_exception(std::exchange(next, nullptr));
-            return "";
+        report->note = [&next = exception] {
+            return next ? std::rethrow_exception(std::exchange(next, nullptr)), "" : "";
         };
-        std::thread([this] {
-            BundleTask(*report, "/Applications/", "quillbarn.app", DryRun::no).uninstall();
-        }).join();
+        std::thread([this] { BundleTask(*report, apps, "b", DryRun::no).uninstall(); }).join();
         EXPECT_EQ(report->lines.back(),
-            std::string("task: failure: The run couldn’t go on because ") + reason);
+            std::string("task: failure: The operation could not continue. ") + reason);
     }
 }
 
-TEST_F(Tasks, tryToUnmountUntilThePathHasGoneButNotMoreThanSevenTimes)
+// Without a bus, each request to the disk service is refused.
+TEST_F(Tasks, RetryUnmountUpToSevenTimes)
 {
-    struct Case {
-        const char* name;
-        std::string path = "/Applications/quillbarn.app";
-        Lines volumes = { "/Applications" };
-        DiskArbitrationFake service = {};
-        int pauses = 0;
-        Lines end = { "main: “unmount succeeded”", "main: finish" };
-    };
-    const std::string tooLong = "/Applications/" + std::string(300, 'x');
-    const Lines failed { "main: “failed”", "main: finish" };
-    for (const Case& c : std::vector<Case> {
-             { .name = "already gone", .path = "/Applications/gone" },
-             { .name = "at once" },
-             { .name = "at the last attempt", .service = { .refusals = 6 }, .pauses = 6 },
-             { .name = "never", .service = { .refusals = 7 }, .pauses = 7, .end = failed },
-             { .name = "not ejected", .service = { .isEjected = false }, .pauses = 1 },
-             { .name = "still there", .service = { .holdsBundle = false }, .end = failed },
-             { .name = "can't be looked at", .path = tooLong, .end = failed },
-             { .name = "no volume", .volumes = {}, .end = { "task: “failed”", "task: finish" } },
+    using Row = std::tuple<std::string, std::string, int, int, std::string>;
+    for (const auto& [path, volume, pauseOfUnmount, pauses, outcome] : std::initializer_list<Row> {
+             { apps + "gone", "/tmp", 0, 0, "“unmount succeeded”" },
+             { bundle, "/tmp", 1, 1, "“unmount succeeded”" },
+             { bundle, "/tmp", 7, 7, "“unmount succeeded”" },
+             { bundle, "/tmp", 8, 7, "“failed”" },
+             { apps + std::string(300, 'x'), "/tmp", 0, 7, "“failed”" },
+             { bundle, "/Volumes", 0, 0, "“failed”" },
          }) {
-        SCOPED_TRACE(c.name);
-        clearLog();
-        writeFile("/Applications/quillbarn.app/x");
-        foundation.mountPoints = c.volumes;
-        diskArbitration = c.service;
-        report->note = [] { return diskArbitration.isInCallback ? " within the callback" : ""; };
+        writeFile(logFile);
+        writeFile(bundle + "/x");
+        foundation.mountPoints = { volume };
+        pausesToUnmount = pauseOfUnmount;
         std::int64_t ejectLoop = 4711;
-        std::thread([&] { UnmountTask(report, c.path, ejectLoop).run(); }).join();
-        EXPECT_TRUE(runMainLoopUntil([&] { return report->lines.back().ends_with("finish"); }));
+        std::thread([&, path = path] { UnmountTask(report, path, ejectLoop).run(); }).join();
+        EXPECT_TRUE(runMainLoopUntil([&] { return report->lines.back().ends_with(": end"); }));
 
-        Lines expected { "task: “unmount " + c.path + "”" };
-        for (int i = 0; i < c.pauses; ++i)
-            expected.insert(expected.end(), { "main: waiting", "main: pause 5" });
-        expected.insert(expected.end(), c.end.begin(), c.end.end());
+        std::vector<std::string> expected { "task: “unmount " + path + "”" };
+        for (int i = 0; i < pauses; ++i)
+            expected.insert(expected.end(), { "main: retrying", "main: pause 5" });
+        const std::string thread = volume == "/tmp" ? "main: " : "task: ";
+        expected.insert(expected.end(), { thread + outcome, thread + "end" });
         EXPECT_EQ(std::exchange(report->lines, {}), expected);
-        EXPECT_EQ(std::ranges::count(readLog(), "d getDMGMountPointURL failed"), c.volumes.empty());
+        EXPECT_EQ(readFile(logFile).ends_with("getDMGMountPointURL failed\n"), volume != "/tmp");
     }
+}
+
+TEST(MountPoint, IsFirstMatchingVolume)
+{
+    const auto mountPointOf = [](const char* path, const std::vector<std::string>& volumes) {
+        foundation.mountPoints = volumes;
+        return getDMGMountPointURL(path).value_or(NSURL::fileURLWithPath("/none")).path();
+    };
+    EXPECT_EQ(mountPointOf("/V/a b/c/x", { "/", "/V/a", "/V/a b", "/V", "/V/a b/c" }), "/V/a b");
+    EXPECT_EQ(mountPointOf("//V/x", { "/", "/V" }), "/none");
+    EXPECT_EQ(mountPointOf("/tmp/V/x", { "/V" }), "/none");
+    EXPECT_EQ(mountPointOf("/e\u0301/x", { "/\u00E9" }), "/\u00E9");
+    EXPECT_EQ(mountPointOf("/\u1100\u1161/x", { "/\uAC00" }), "/\uAC00");
+    EXPECT_EQ(mountPointOf("/V/\u0301x", { "/V" }), "/none"); // a "/" with a combining accent
+    EXPECT_EQ(mountPointOf("/\xFF/x", { "/\uFFFD", "/\xFF" }), "/\xFF");
 }

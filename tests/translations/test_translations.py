@@ -1,4 +1,4 @@
-"""Every catalogue has all texts of the sources, and no other, in its language."""
+"""All texts exist in all languages, and the documents list the same languages and options."""
 
 import os
 import pathlib
@@ -9,17 +9,37 @@ import tempfile
 import unittest
 from xml.etree import ElementTree
 
+SOURCES = pathlib.Path(os.environ["SOURCES"])
+CATALOGUES = list(SOURCES.glob("resources/translations/*.ts"))
+FOLDERS = "app controller disk install log platform resources task".split()
+
 
 class Translations(unittest.TestCase):
-    def test_each_text_has_one_with_the_same_places(self):
-        sources = pathlib.Path(os.environ["SOURCES"])
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        catalogues = [shutil.copy(path, folder.name) for path in sources.glob("resources/translations/*.ts")]
-        subprocess.run([*os.environ["LUPDATE"].split(), "app", "controller", "disk", "install", "log", "platform",
-                        "resources", "task", "-ts", *catalogues], cwd=sources, check=True)
-        self.assertEqual(len(catalogues), 6)
-        for message in (each for path in catalogues for each in ElementTree.parse(path).iter("message")):
-            text, translation = message.find("source").text, message.find("translation")
-            self.assertEqual(translation.attrib, {}, text)  # such as "unfinished" or "vanished"
-            self.assertEqual(*(sorted(re.findall("%.", each)) for each in (text, translation.text)))
+    def test_catalogues_are_complete(self):
+        folder = self.enterContext(tempfile.TemporaryDirectory())
+        copies = [pathlib.Path(shutil.copy(path, folder)) for path in CATALOGUES]
+        subprocess.run([*os.environ["LUPDATE"].split(), *FOLDERS, "-ts", *copies], cwd=SOURCES, check=True)
+        texts = {path.stem: {(context.find("name").text, text.find("source").text): (
+                             result.attrib, result.text and sorted(re.findall("%.", result.text)))
+                             for context in ElementTree.parse(path).iter("context")
+                             for text in context.iter("message") for result in text.iter("translation")}
+                 for path in copies}
+        # Without attributes such as "unfinished" or "vanished".
+        complete = {key: ({}, placeholders) for key, (_, placeholders) in texts["en"].items()}
+        for language in texts:
+            self.assertEqual(texts[language], complete, language)
+
+    def test_languages_and_options_in_documents(self):
+        languages = sorted({path.stem for path in CATALOGUES} - {"en"})
+        entry, metainfo, manual, readme, modes = ((SOURCES / path).read_text() for path in (
+            "share/quillbarninstaller.desktop", "share/org.example.quillbarn.installer.metainfo.xml.in",
+            "share/quillbarninstaller.1.in", "README.md", "controller/Modes.cpp"))
+        for key in "Name", "Comment":
+            self.assertEqual(re.findall(rf"^{key}\[(\w+)\]=", entry, re.MULTILINE), languages)
+        for tag, count in ("name", 1), ("summary", 1), ("p", 2):
+            self.assertEqual(re.findall(rf'<{tag} xml:lang="(\w+)">', metainfo), languages * count)
+        for text in readme, manual.replace("\\", ""):
+            names = re.search(r"(Arabic[\w\s(),]+\sor\s+\w+)", text)[1]
+            self.assertEqual(len(re.split(r",\s+|\s+or\s+", names)), len(languages), names)
+            for option in re.findall(r'"(-\w+)"', modes):
+                self.assertIn(option, text)

@@ -3,13 +3,13 @@
 #include <cassert>
 #include <memory>
 
-// A controller's reference to a part of its window: weak, as the window owns its parts, and
-// connected when the interface file is loaded.
+// A weak reference of a controller to a part of its window, which owns the part. Connected when the
+// interface file is loaded.
 template <class Part> class IBOutlet : public std::weak_ptr<Part> {
 public:
     using std::weak_ptr<Part>::operator=;
 
-    // Of an outlet that is connected.
+    // Requires a connected outlet.
     std::shared_ptr<Part> operator->() const
     {
         auto part = this->lock();

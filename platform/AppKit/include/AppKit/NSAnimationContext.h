@@ -2,8 +2,8 @@
 
 #include <functional>
 
-// How the changes that are made through an animator happen, from beginGrouping to endGrouping.
-// Unlike in AppKit, groups don't nest. Main thread only.
+// The properties of the animations started between beginGrouping() and endGrouping(). Unlike in
+// AppKit, groups do not nest. Main thread only.
 class NSAnimationContext {
 public:
     static void beginGrouping() { currentContext() = {}; }
@@ -18,7 +18,7 @@ public:
     double duration() const { return m_duration; }
     void setDuration(double duration) { m_duration = duration; }
 
-    // What is called at the end of each animation that the group starts from now on.
+    // Called at the end of each animation that the group starts after this call.
     const std::function<void()>& completionHandler() const { return m_completionHandler; }
     void setCompletionHandler(std::function<void()> handler)
     {

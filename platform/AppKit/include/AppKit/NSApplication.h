@@ -5,19 +5,19 @@
 class NSApplication;
 class NSWindow;
 
-// Hears of the stages of the program, on the main thread, save of the end without a display.
+// Receives the stages of the program, on the main thread unless stated otherwise.
 class NSApplicationDelegate {
 public:
     virtual ~NSApplicationDelegate() = default;
 
     virtual void applicationDidFinishLaunching() = 0;
 
-    // Unlike with AppKit, the window's display may go away in the middle of a run, whose end that
-    // is: applicationWillTerminate() follows, on the same thread, whichever notices it, and the
-    // process ends with 1.
+    // Not in AppKit: the connection to the display is lost, for example because the X server has
+    // died. Sent on the thread that detects it; applicationWillTerminate() follows on the same
+    // thread, and the process ends with 1.
     virtual void applicationDidLoseDisplay() = 0;
 
-    // The process ends right after this.
+    // The process ends right after this. On the main thread, or see applicationDidLoseDisplay().
     virtual void applicationWillTerminate() = 0;
 
     virtual bool applicationShouldTerminateAfterLastWindowClosed(NSApplication& sender) = 0;
@@ -34,12 +34,13 @@ public:
         m_delegate = std::move(delegate);
     }
 
-    // Brings the window to the front as soon as it is on the screen, and gives it the keyboard, if
-    // the desktop lets it.
+    // Brings the window to the front with the keyboard focus when it is shown, if the desktop
+    // permits it.
     void activateIgnoringOtherApps() { m_isToBeActive = true; }
     bool isToBeActive() const { return m_isToBeActive; }
 
-    // Tells the delegate and ends the process with 0, whatever other threads are doing.
+    // Sends applicationWillTerminate() and ends the process with 0. Does not wait for other
+    // threads.
     [[noreturn]] void terminate();
 
 private:
@@ -47,13 +48,12 @@ private:
     bool m_isToBeActive = false;
 };
 
-// Loads the main interface, shows its window and runs the main thread's loop. Work for other
-// threads begins when the first frame is on the screen. Doesn't return: the process ends with
-// terminate() when the last window has closed. Where no display can be had it ends with 1, and with
-// a line on standard error that says what to do.
+// Loads the main interface, shows its window and runs the main loop. Background work starts when
+// the first frame is on the screen, or one second later. Does not return: when the last window has
+// closed and the delegate agrees, the process ends with terminate(). If the display cannot be
+// opened, the process ends with 1 and a line on standard error that states what to do.
 int NSApplicationMain(int argc, const char* const argv[]);
 
-// Opens the program's main interface, makes the objects outside its window, such as the delegate,
-// and connects everything. Unlike with AppKit, where a property of the bundle names a file, the
-// program defines this function.
+// Opens the main interface, creates the delegate, and connects everything. Unlike in AppKit, where
+// a property of the bundle names the interface file, the program defines this function.
 std::shared_ptr<NSWindow> loadMainInterface(NSApplication& application);

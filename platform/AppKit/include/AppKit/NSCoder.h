@@ -6,6 +6,6 @@ class NSWindow;
 
 // An opened interface file.
 struct NSCoder {
-    // The window it describes; nullptr where the file holds none.
+    // The window it describes; nullptr if the file contains none.
     std::shared_ptr<NSWindow> window;
 };

@@ -2,15 +2,14 @@
 
 #include <Foundation/NSGeometry.h>
 
-// Keeps a part of the window at a height, its constant. The window grows and shrinks with it. Main
-// thread only.
+// The height at which a part of the window opens, its constant; 0 hides the part. Main thread only.
 class NSLayoutConstraint {
 public:
     virtual ~NSLayoutConstraint() = default;
 
-    // Points; at first what the interface file gives. While a change is animated, this is where it
-    // leads. Unlike in AppKit, a constant above 0 is a wish: a person may make the window higher,
-    // and where the screen is too small the part gets what is left.
+    // Points; initially the height designed in the interface file, in an animation its final value.
+    // Unlike in AppKit, the part can have another height, if the screen is too small or the user
+    // resizes the window, and without the animator the part is only shown or hidden.
     virtual CGFloat constant() const = 0;
     virtual void setConstant(CGFloat constant) = 0;
 

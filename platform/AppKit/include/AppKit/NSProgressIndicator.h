@@ -2,13 +2,12 @@
 
 #include <AppKit/NSView.h>
 
-// A bar that shows how much of something is done. It starts with the range and value that the
-// interface file gives it.
+// A progress bar, initially with the range and value from the interface file.
 class NSProgressIndicator : public NSView {
 public:
     virtual void setMinValue(double value) = 0;
     virtual void setMaxValue(double value) = 0;
 
-    // Values outside the range show as the end they lie beyond.
+    // Clamps the value to the range.
     virtual void setDoubleValue(double value) = 0;
 };

@@ -4,29 +4,29 @@
 
 #include <string_view>
 
-// A text that can be selected, copied and read by a screen reader, in rows of the field's width.
-// Bytes that are not UTF-8 show as U+FFFD.
+// A text that can be selected, copied and read by a screen reader, wrapped to rows. Bytes that are
+// not UTF-8 show as U+FFFD. Shown as \uXXXX: control characters (except line feed), line separators
+// and direction overrides.
 class NSTextField : public NSView {
 public:
     virtual void setStringValue(std::string_view text) = 0;
 
-    // Unlike AppKit's, a field can be added to: what setting the value followed by `text` would do.
-    // As long as the field can't be seen, in a time that does not grow with the value.
+    // Not in AppKit: appends to the value. While the field is hidden, the time does not depend on
+    // the length of the value.
     virtual void appendString(std::string_view text) = 0;
 
-    // The area of the whole text. Unlike AppKit's, its width is always the scroll view's, and as
-    // long as the field can't be seen, it has no text to be fitted to.
+    // The area of the whole text. Unlike in AppKit, its width is always that of the scroll view,
+    // and while the field is hidden its height is that of an empty text.
     virtual NSRect frame() const = 0;
     virtual void setFrame(const NSRect& frame) = 0;
 
-    // Gives the frame the height of the text.
+    // Sets the height of the frame to that of the text. Unlike in AppKit, it is always so.
     virtual void sizeToFit() = 0;
 
-    // The part of the text that the scroll view shows.
+    // The visible part of the text.
     virtual NSRect visibleRect() const = 0;
 
-    // Makes the row at this point the first of that part, or the next one from which the text fills
-    // the view. At the end of the text the view stays at the end when its size changes; that is
-    // also where it is when it comes in sight.
+    // Scrolls so that the row at `point` is the first visible one, or as far as the text reaches. A
+    // view at the end of the text stays there when its size changes. Initially it is at the end.
     virtual void scrollPoint(NSPoint point) = 0;
 };

@@ -4,7 +4,7 @@
 
 class NSWindow;
 
-// A part of the window, which owns it. Main thread only, like everything in this framework.
+// A part of a window, which owns it. Main thread only, like everything in this framework.
 class NSView {
 public:
     virtual ~NSView() = default;
@@ -12,6 +12,6 @@ public:
     // The view's own area, its origin at (0, 0).
     virtual NSRect bounds() const = 0;
 
-    // The window the view is in.
+    // The window that contains the view and owns it; nullptr if there is none.
     virtual NSWindow* window() const = 0;
 };

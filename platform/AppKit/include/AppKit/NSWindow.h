@@ -6,8 +6,8 @@
 class NSView;
 class NSViewController;
 
-// The window. It owns its views with their constraints, and its controller. While its default
-// button is disabled, nothing a person does closes it. Main thread only.
+// The window. Owns its views, their constraints and its controller. While its default button is
+// disabled, the user cannot close it. Main thread only.
 class NSWindow {
 public:
     virtual ~NSWindow() = default;
@@ -17,21 +17,21 @@ public:
 
     virtual void setTitle(const std::string& title) = 0;
 
-    // Makes the controller the window's own, and tells it that its view is loaded.
+    // Takes ownership of the controller and sends it viewDidLoad().
     virtual void setContentViewController(std::shared_ptr<NSViewController> controller) = 0;
 
-    // From now on Return and Escape press the default button. Unlike in AppKit, they don't before,
-    // the button takes the keyboard with this, and the window's own close control always presses
-    // it.
+    // From now on Return and Escape press the default button, which receives the keyboard focus.
+    // Not in AppKit: before this call the keys have no effect. The window's close control always
+    // presses the button.
     virtual void enableKeyEquivalentForDefaultButton() = 0;
 
-    // Shows the window. Returns when it is drawn, or after a second on a desktop that shows none.
+    // Shows the window. Returns when the first frame is drawn, or after one second.
     virtual void makeKeyAndOrderFront() = 0;
 
-    // Brings the window before those of other programs and asks for the keyboard, which a desktop
-    // ignores of a window that isn't shown.
+    // Brings the window to the front and requests the keyboard focus, which the desktop may refuse.
+    // Call after the window is shown.
     virtual void orderFrontRegardless() = 0;
 
-    // Takes the window off the screen, whatever its button says. The application may end with it.
+    // Closes the window, even if its button is disabled. The application may terminate.
     virtual void close() = 0;
 };

@@ -20,8 +20,9 @@ enum DADiskEjectOptions { kDADiskEjectOptionDefault };
 // States that a request was refused. Unlike DiskArbitration, contains no reason.
 struct DADissenter {};
 
-// Runs once, after the end of a request. `dissenter` is nullptr if the request was granted; it is
-// valid until the callback returns. `context` is the argument of the request.
+// Runs on the main thread, once after the end of a request, or never if the session is not
+// scheduled by then. `dissenter` is nullptr if the request was granted; it is valid until the
+// callback returns. `context` is the argument of the request and remains the caller's.
 using DADiskUnmountCallback
     = void (*)(const DADiskRef& disk, const DADissenter* dissenter, void* context);
 using DADiskEjectCallback = DADiskUnmountCallback;
@@ -34,8 +35,8 @@ using DADiskEjectCallback = DADiskUnmountCallback;
 void DADiskUnmount(const DADiskRef& disk, DADiskUnmountOptions options,
     DADiskUnmountCallback callback, void* context);
 
-// Ejects the whole disk. Unlike DiskArbitration, requires a granted DADiskUnmount. A disk image is
-// detached from its loop device; if the device is in use, that is granted and happens after the
-// last close.
+// Ejects the whole disk. Unlike DiskArbitration, requires a granted DADiskUnmount. The detachment
+// of a disk image from its loop device is always granted; if the device is in use, it happens after
+// the last close.
 void DADiskEject(
     const DADiskRef& disk, DADiskEjectOptions options, DADiskEjectCallback callback, void* context);

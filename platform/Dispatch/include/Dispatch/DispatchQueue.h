@@ -9,21 +9,21 @@ class DispatchQueue {
 public:
     virtual ~DispatchQueue() = default;
 
-    // The main thread's queue: serial, first in first out.
+    // The queue of the main thread: serial, first in, first out.
     static DispatchMainQueue& main();
 
-    // The background queue: everything submitted runs at once, each on a thread of its own, which
-    // nobody waits for when the process ends. Unlike on the platform, async() throws an NSError
-    // where no thread can be had.
+    // The concurrent background queue: each submission runs on a thread of its own, after the
+    // window has been shown. The process ends without waiting for it. Unlike in Grand
+    // Central Dispatch, async() throws an NSError if no thread can be created.
     static DispatchQueue& global();
 
-    // Returns at once. Safe on any thread.
+    // Returns at once. Safe on any thread. `work` must not throw.
     virtual void async(std::function<void()> work) = 0;
 };
 
 class DispatchMainQueue : public DispatchQueue {
 public:
-    // Returns when `work` has run. Unlike on the platform, throws what that threw. From any thread
-    // but the main thread, where it never returns.
+    // Returns when `work` has run. Unlike in Grand Central Dispatch, rethrows its exception. Any
+    // thread except the main thread, where it would never return.
     virtual void sync(const std::function<void()>& work) = 0;
 };

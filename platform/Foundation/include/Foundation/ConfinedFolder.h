@@ -2,46 +2,58 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 class OpenFolders;
 
-// Changes what lies beneath one folder, and nothing else, whoever moves, links or mounts what
-// meanwhile: a path is followed from that folder, which stays open, through no link and into no
-// other volume. One thread at a time. Throws an NSError. Foundation has nothing of the kind.
+// Changes what is beneath one folder and nothing else, even if other processes rename, replace or
+// mount things during the run: every path is resolved beneath the open folder, through no symlink
+// and across no mount point. Paths begin with the folder's own. One thread at a time. Throws an
+// NSError. Not in Foundation, but with the names of NSFileManager.
 class ConfinedFolder {
 public:
-    // Opens `folder`, with which all paths given later begin, for this object alone, until it goes
-    // or the process ends. It ends in "/" and may be reached through links. Fails at once where
-    // another program holds it locked. One that is missing is opened as soon as
-    // createDirectoryAtPath has created it.
+    // Opens `folder`, which ends in "/" and may be reached through symlinks, and locks it if the
+    // file system supports locks. Fails at once if another process holds the lock. A missing folder
+    // is opened when createDirectoryAtPath creates it. The lock ends with the object or the
+    // process.
     explicit ConfinedFolder(const std::string& folder);
     ~ConfinedFolder();
     ConfinedFolder(const ConfinedFolder&) = delete;
     ConfinedFolder& operator=(const ConfinedFolder&) = delete;
 
-    // Creates a folder, with the default mode. One that is there already is success. Unlike in
-    // Foundation, only the confining folder is created with the missing ones on the way to it.
-    void createDirectoryAtPath(const std::string& path);
+    // Creates a folder with mode 0777 & ~umask. With intermediate directories, an existing folder
+    // is a success, and the confining folder is created if it is missing. Unlike in Foundation, a
+    // missing parent inside the confining folder is an error.
+    enum class WithIntermediateDirectories { no, yes };
+    void createDirectoryAtPath(const std::string& path, WithIntermediateDirectories intermediates);
 
-    // Copies a file with its mode (less set-ID bits), owner where allowed, attributes (less
-    // capabilities), access control list and times; a link as a link. What the volume doesn't have
-    // is left out. The copy is whole or absent under its name, also after a kill. An item in its
-    // place is an error, save a link that leads to the same. Unlike in Foundation, folders are
-    // refused, as are devices, pipes and sockets. `path` may lie anywhere.
+    // Copies a file with mode (without set-ID bits), owner if permitted, xattrs (without
+    // capabilities), ACL and times, or a symlink as a symlink. Metadata that the volume or the
+    // user's permissions cannot keep is omitted. The copy is complete or absent, also after
+    // SIGKILL; on a file system without O_TMPFILE a hidden temporary file may remain. An existing
+    // item is an error, except a symlink with the same target. Unlike Foundation, refuses folders,
+    // devices, FIFOs and sockets. `path` may be anywhere.
     void copyItemAtPath(const std::string& path, const std::string& toPath);
 
-    // Removes a file, a link (not what it leads to) or a folder with all it holds, but nothing that
-    // lies on another volume. Unlike in Foundation, an item that is not there counts as removed.
+    // Throws what copyItemAtPath would throw because of its source.
+    static void requireCopyableItemAtPath(const std::string& path);
+
+    // Removes a file, a symlink (not its target) or a folder with its contents. Fails at a mount
+    // point. Unlike in Foundation, a missing item, or one behind a symlink, is a success.
     void removeItemAtPath(const std::string& path);
 
-    // Returns when all changes are on the disk, those of an earlier run, too.
+    // Flushes all changes of the file system to the disk, those of an earlier run included, with
+    // one call. On a volume that ignores this call, flushes each item that this object has changed.
     void synchronize();
 
 private:
     void open();
     void create();
+    void noteUnflushed(const std::string& path);
 
     const std::string m_folder;
     const std::unique_ptr<OpenFolders> m_sourceFolders;
-    std::unique_ptr<OpenFolders> m_folders; // none while the folder is missing
+    std::unique_ptr<OpenFolders> m_folders; // nullptr while the folder is missing
+    bool m_ignoresSyncfs = false; // the volume
+    std::vector<std::string> m_unflushed; // paths, on such a volume only
 };

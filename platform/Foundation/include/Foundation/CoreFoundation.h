@@ -1,14 +1,14 @@
 #pragma once
 
-// What DiskArbitration takes of CoreFoundation.
+// The part of CoreFoundation that DiskArbitration requires.
 
-// Unlike in CoreFoundation, where objects are made is up to the language.
+// Unlike in CoreFoundation, has no effect.
 class CFAllocator;
 using CFAllocatorRef = CFAllocator*;
 
 inline CFAllocatorRef CFAllocatorGetDefault() { return nullptr; }
 
-// The loop of a thread. Unlike in CoreFoundation, there is the main thread's alone.
+// The run loop of a thread. Unlike in CoreFoundation, only that of the main thread exists.
 class CFRunLoop {};
 using CFRunLoopRef = CFRunLoop*;
 

@@ -6,14 +6,13 @@
 // A moment in time.
 using NSDate = std::chrono::system_clock::time_point;
 
-// Writes dates in local time, with ASCII digits. One thread at a time.
+// Formats dates in local time with ASCII digits. One thread at a time.
 class NSDateFormatter {
 public:
-    // `format` is a Unicode date pattern such as "yyyy/MM/dd-HH:mm:ss"; no field finer than a
-    // second.
+    // `format` is a date pattern with the fields yyyy, MM, dd, HH, mm and ss.
     void setDateFormat(const std::string& format);
 
-    // Dates of the second that was asked for last cost no new formatting.
+    // The text is valid until the next call. It is cached for dates in the same second.
     const std::string& stringFromDate(NSDate date);
 
 private:

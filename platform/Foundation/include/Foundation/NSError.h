@@ -2,17 +2,25 @@
 
 #include <Foundation/NSString.h>
 
-// Why an operation failed, in words for the person at the window. A value; what the product throws.
+// Describes a failed operation to the user. A value; the exception type of the product.
 class NSError {
 public:
-    // The description with the arguments in its places, as NSString has them.
+    // The description is `format` with the arguments in its places; see NSString.
     explicit NSError(const std::string& format, const std::vector<std::string>& arguments = {})
         : m_localizedDescription(NSString::stringWithFormat(format, arguments))
     {
     }
 
-    // One sentence that tells what, where and why. Names in it are the file system's own bytes.
+    // One line of whole sentences: what failed, why, what to do. Names are bytes of the file
+    // system.
     const std::string& localizedDescription() const { return m_localizedDescription; }
+
+    // Not in Foundation: returns the error with a sentence added to its description.
+    NSError followedBy(const std::string& sentence) const
+    {
+        return NSError(
+            NSLocalizedString("Errors", "two sentences"), { m_localizedDescription, sentence });
+    }
 
 private:
     std::string m_localizedDescription;

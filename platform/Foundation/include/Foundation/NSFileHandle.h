@@ -6,14 +6,14 @@
 
 class FileDescriptor;
 
-// A file opened for writing. One thread at a time. A write or flush that fails is dropped.
+// A file opened for writing. One thread at a time. Unlike Foundation, ignores failed writes and
+// flushes.
 class NSFileHandle {
 public:
-    // The file at `path`, which must exist; nullptr where it can't be opened. Unlike in Foundation,
-    // a link is not followed, and only a file of data with no other name is opened: what is written
-    // lands in no place that someone else has chosen.
-    // Unlike Foundation, every write goes to the end the file has at that moment, so that several
-    // programs can write to one file and lose nothing of each other.
+    // Returns nullptr if the file does not exist or cannot be opened. Unlike Foundation, opens only
+    // a regular file with one hard link and no symlink, so that a user who can write to its folder
+    // cannot redirect the output. Unlike in Foundation, every write appends (O_APPEND), so that
+    // processes do not overwrite each other's output.
     static std::shared_ptr<NSFileHandle> fileHandleForWritingAtPath(const std::string& path);
 
     explicit NSFileHandle(FileDescriptor file);
@@ -21,14 +21,14 @@ public:
     NSFileHandle(const NSFileHandle&) = delete;
     NSFileHandle& operator=(const NSFileHandle&) = delete;
 
-    // Hands all of `data` to the system in one piece. Unlike in Foundation, answers how many bytes
-    // of it the file has got.
+    // Writes `data` with one system call unless the system accepts only a part. Unlike Foundation,
+    // returns the number of bytes written.
     std::size_t writeData(std::string_view data);
 
-    // Returns when what was written is on the disk.
+    // Flushes the data to the disk (fdatasync).
     void synchronizeFile();
 
-    // What is called afterwards does nothing.
+    // Later calls have no effect.
     void closeFile();
 
 private:

@@ -2,6 +2,7 @@
 
 #include <Foundation/NSURL.h>
 
+#include <cstdint>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -12,12 +13,18 @@
 class OpenFolders;
 struct Item;
 
-// Which file an existing path leads to, by volume and number: no two files have the same, and one
-// file has it under every path.
-using FileIdentity = std::pair<unsigned long, unsigned long>;
+// Device and inode number. Equal identities usually mean the same file, but some FUSE file systems
+// have no inode numbers. A file that is visible in two file systems (bindfs, overlay) has two.
+using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
-// Unlike in Foundation, naming a property of a volume fetches nothing: it could only be had from
-// the volume itself, which may be out of reach.
+struct FileStatus {
+    bool isDirectory = false;
+    bool isSpecial = false; // a device, a FIFO or a socket
+    bool isSymlink = false; // and the other members describe its target
+    FileIdentity identity;
+};
+
+// Unlike in Foundation, no property of a volume is fetched: an unreachable volume would block.
 enum NSURLResourceKey {
     NSURLVolumeNameKey,
     NSURLVolumeIsRemovableKey,
@@ -27,52 +34,55 @@ enum NSURLResourceKey {
 
 enum NSVolumeEnumerationOptions { NSVolumeEnumerationSkipHiddenVolumes = 1 << 1 };
 
-// Looks at the file system. Paths are bytes. What changes a tree is ConfinedFolder. What fails
-// throws an NSError, unless told otherwise.
+// Access to the file system outside the bundle, mostly read-only; ConfinedFolder changes the
+// bundle. Paths are bytes. Throws an NSError if a system call fails, unless stated otherwise.
 class NSFileManager {
 public:
     // Safe on any thread.
     static const NSFileManager& defaultManager();
 
-    // A manager of one's own keeps folders open that it has been to, so that the next item costs
-    // the same however deep it lies. One thread at a time.
+    // A separate manager caches the open folders of the last path, so that an entry costs the same
+    // at any depth. One thread at a time.
     NSFileManager();
     ~NSFileManager();
     NSFileManager(const NSFileManager&) = delete;
     NSFileManager& operator=(const NSFileManager&) = delete;
 
-    // Whether something is there. Follow links: a link that leads nowhere does not exist. Unlike in
-    // Foundation, what can't be looked at is neither there nor absent, but an error; and the answer
-    // may be which file it is.
-    bool fileExistsAtPath(const std::string& path) const;
-    std::optional<FileIdentity> fileExistsAtPath(const std::string& path, bool& isDirectory) const;
+    // Returns whether `path` exists, following symlinks; a dangling symlink does not exist. Unlike
+    // Foundation, throws on any stat error except "not found". If it exists, sets `status`, if any.
+    bool fileExistsAtPath(const std::string& path, FileStatus* status = nullptr) const;
 
-    // The names in a folder, hidden ones included, in the file system's order.
+    // Returns whether the user has permission to read `path`, following symlinks. Throws nothing.
+    bool isReadableFileAtPath(const std::string& path) const;
+
+    // Returns the names in a folder, hidden ones included, in the order of the file system.
     std::vector<std::string> contentsOfDirectoryAtPath(const std::string& path) const;
 
-    // Where a link leads, as it stands in it. Unlike in Foundation, none for what is no link.
+    // Returns the target of a symlink, unchanged. Unlike Foundation, returns nothing if `path` is
+    // not a symlink or does not exist.
     std::optional<std::string> destinationOfSymbolicLinkAtPath(const std::string& path) const;
 
-    // `path` with all links in it followed, or as it stands where nothing is there.
+    // Returns the absolute path of an existing item, without symlinks. Unlike Foundation, throws if
+    // it cannot be determined (for example if it exceeds 4,095 bytes).
     std::string stringByResolvingSymlinksInPath(const std::string& path) const;
 
-    // The mount points of the volumes that are not hidden, in the order of the mount table. Never
-    // waits for a volume.
+    // Returns the mount points of the volumes that are not hidden, in the order of the mount table.
+    // Never blocks on a volume. Returns nothing if the table cannot be read.
     std::vector<NSURL> mountedVolumeURLsIncludingResourceValuesForKeys(
         const std::vector<NSURLResourceKey>& keys, NSVolumeEnumerationOptions options) const;
 
-    // Makes a folder the one from which relative paths start, for the whole process. Whether it
-    // could.
+    // Sets the working directory of the process. Returns whether it succeeded.
     bool changeCurrentDirectoryPath(const std::string& path) const;
 
-    // Creates an empty file. Unlike Foundation, one that is there already, or appears meanwhile,
-    // keeps its content, and that is success. A link that leads nowhere is replaced.
+    // Creates an empty file and returns whether it exists afterwards; throws nothing. Unlike
+    // Foundation, leaves an existing file unchanged and replaces a dangling symlink.
     bool createFileAtPath(const std::string& path) const;
 
 private:
-    explicit NSFileManager(std::unique_ptr<OpenFolders> folders);
+    explicit NSFileManager(std::unique_ptr<OpenFolders> cache);
 
-    Item find(const std::string& path, std::initializer_list<int> expected = {}) const;
+    std::optional<Item> find(
+        const std::string& path, std::initializer_list<int> expected = {}) const;
 
-    const std::unique_ptr<OpenFolders> m_folders; // or none
+    const std::unique_ptr<OpenFolders> m_folders; // nullptr: no cache
 };

@@ -4,13 +4,11 @@
 using CGFloat = double;
 
 struct NSPoint {
-    CGFloat x = 0;
-    CGFloat y = 0;
+    CGFloat x = 0, y = 0;
 };
 
 struct NSSize {
-    CGFloat width = 0;
-    CGFloat height = 0;
+    CGFloat width = 0, height = 0;
 };
 
 struct NSRect {

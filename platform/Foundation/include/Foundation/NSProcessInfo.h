@@ -3,13 +3,19 @@
 #include <string>
 #include <vector>
 
-// The running process. Safe on any thread.
+// The running process. Safe on any thread after initialize().
 class NSProcessInfo {
 public:
     static const NSProcessInfo& processInfo();
 
+    // Not in Foundation: NSApplicationMain passes the arguments of main() first.
+    static void initialize(int argc, const char* const argv[]);
+
     int processIdentifier() const;
 
-    // The argument vector as the process received it, byte for byte, the program's own path first.
-    std::vector<std::string> arguments() const;
+    // Returns the argument vector of the process, byte for byte, starting with the program's path.
+    const std::vector<std::string>& arguments() const { return m_arguments; }
+
+private:
+    std::vector<std::string> m_arguments;
 };

@@ -4,23 +4,24 @@
 #include <string_view>
 #include <vector>
 
-// What the platform's strings can do and std::string can't. Text is UTF-8, and what isn't compares
-// as bytes. Safe on any thread.
+// Operations of the platform's strings that std::string lacks. Text is UTF-8; other bytes are
+// compared literally. Safe on any thread.
 class NSString {
 public:
-    // Whether a text begins or ends with another, which is not empty. Canonically equivalent
-    // characters are the same, and no part of a user-perceived character (extended grapheme
-    // cluster) is found.
+    // Return whether a text begins or ends with another, which is not empty. Canonically equivalent
+    // characters are equal; a part of an extended grapheme cluster does not match.
     static bool hasPrefix(std::string_view text, std::string_view prefix);
     static bool hasSuffix(std::string_view text, std::string_view suffix);
 
-    // `format` with the arguments, which are any bytes, in the places %1 to %9, whatever their
-    // order.
+    // Bytes that are not UTF-8 become U+FFFD.
+    static std::string uppercaseString(const std::string& text);
+
+    // Returns `format` with the arguments, which may be any bytes, in the places %1 to %9.
     static std::string stringWithFormat(
         const std::string& format, const std::vector<std::string>& arguments);
 };
 
-// The text `key`, which is English, in the language of the desktop, if a catalogue has it. Unlike
-// in Foundation, the table that it is in comes first. Both are literals: the catalogues are made of
-// those. Safe on any thread.
+// Returns the text with the identifier `key` in the user's language, or `key` if no catalogue
+// contains it. Unlike in Foundation, the table comes first. The catalogues are extracted from
+// literal arguments; other keys are marked with QT_TRANSLATE_NOOP. Safe on any thread.
 std::string NSLocalizedString(const char* table, const char* key);

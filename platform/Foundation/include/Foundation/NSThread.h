@@ -3,12 +3,11 @@
 // The calling thread.
 class NSThread {
 public:
-    // Whether the caller is the thread the process started with.
+    // Returns whether the caller is the first thread of the process.
     static bool isMainThread();
 
-    // Suspends the caller for that many seconds, or a little longer. Unlike in Foundation, the main
-    // thread still answers the desktop meanwhile: it draws, and tells a screen reader what it asks.
-    // But no key counts; and work of the main queue that makes a pause holds up what comes after
-    // it.
+    // Blocks the caller for that many seconds (on the main thread, whole milliseconds). Unlike in
+    // Foundation, the main thread keeps repainting and answers screen readers. User input is
+    // deferred; so is the work of the main queue, if the caller is such work.
     static void sleepForTimeInterval(double seconds);
 };

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-// Where something is. Unlike in Foundation, always a place in the file system.
+// The location of a file. Unlike in Foundation, always a file URL.
 class NSURL {
 public:
     // `path` is absolute.
@@ -11,7 +11,7 @@ public:
 
     std::string_view scheme() const { return "file"; }
 
-    // The path as the file system has it, byte for byte; no "/" at its end, save the root's own.
+    // The path, byte for byte, without "/" at its end unless it is the root.
     const std::string& path() const { return m_path; }
 
 private:

@@ -1,0 +1,205 @@
+#include "MainInterface.h"
+#include "WindowQt.h"
+#include "WindowReport.h"
+#include "fakes/FoundationFake.h"
+#include "support/MainLoop.h"
+#include "support/Tree.h"
+
+#include <Foundation/NSProcessInfo.h>
+
+#include <QtWidgets>
+
+#include <future>
+#include <gtest/gtest.h>
+#include <pthread.h>
+
+namespace {
+
+const std::string logFile = "/tmp/quillbarninstaller.log";
+
+// Returns when the work, which requires the main loop, is done.
+void runInBackground(const std::function<void()>& work)
+{
+    const auto task = std::async(std::launch::async, work);
+    EXPECT_TRUE(runMainLoopUntil(
+        [&] { return task.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
+}
+
+// The window of the installer on the screen, and its controller, started with the arguments. The
+// log begins at that moment.
+struct TestWindow {
+    explicit TestWindow(const std::vector<const char*>& arguments = {}, bool test = false)
+    {
+        NSProcessInfo::initialize(int(arguments.size()), arguments.data());
+        writeFile(logFile);
+        controller->m_test = test;
+        window->setContentViewController(controller);
+        window->makeKeyAndOrderFront();
+    }
+
+    std::string title() const { return window->windowTitle().toStdString(); }
+    std::string help() const { return button.accessibleDescription().toStdString(); }
+
+    const std::shared_ptr<WindowQt> window = std::make_shared<WindowQt>();
+    const std::shared_ptr<ViewController> controller = openMainInterface(*window);
+    QPlainTextEdit& text = *window->findChild<QPlainTextEdit*>();
+    QProgressBar& bar = *window->findChild<QProgressBar*>();
+    QPushButton& button = *window->findChild<QPushButton*>();
+    const std::function<bool()> isPaneOpen = [this] { return button.isDefault(); };
+    const std::function<bool()> isEnded = [this] { return window->isHidden(); };
+};
+
+// The pane opens, because there is no option. No task runs.
+struct Pane : testing::Test, TestWindow {
+    Pane() { EXPECT_TRUE(runMainLoopUntil(isPaneOpen)); }
+};
+
+}
+
+TEST(ViewController, TitleShowsModeAndOutcome)
+{
+    pthread_attr_t usual;
+    pthread_getattr_default_np(&usual);
+    pthread_attr_t tooLarge = usual;
+    pthread_attr_setstacksize(&tooLarge, std::size_t(1) << 50);
+    writeFile("/tmp/source/quillbarn.app/file");
+    foundation.mountPoints = { "/tmp" };
+    using Row = std::tuple<std::vector<const char*>, const char*, const char*>;
+    const char* const unejected = "The disk image could not be ejected";
+    for (const auto& [arguments, title, titleOfFailure] : std::initializer_list<Row> {
+             { { "-install", "/tmp/source/" }, "Installing quillbarn",
+                 "quillbarn could not be installed" },
+             { { "-uninstall" }, "Uninstalling quillbarn", "quillbarn could not be uninstalled" },
+             { { "-install2", "/" }, "Ejecting the disk image", unejected },
+             { { "-install2", "/tmp/source" }, "Ejecting the disk image: trying again", unejected },
+         }) {
+        const TestWindow window(arguments);
+        EXPECT_TRUE(runMainLoopUntil(window.isEnded));
+        EXPECT_EQ(window.title(), title);
+        EXPECT_EQ(window.bar.value(), window.bar.maximum());
+        EXPECT_FALSE(window.button.isEnabled() || window.text.isVisibleTo(window.window.get()));
+
+        pthread_setattr_default_np(&tooLarge); // no thread can start
+        const TestWindow unstarted(arguments);
+        pthread_setattr_default_np(&usual);
+        EXPECT_TRUE(runMainLoopUntil(unstarted.isPaneOpen));
+        EXPECT_EQ(unstarted.title(), titleOfFailure);
+        EXPECT_TRUE(unstarted.help().starts_with("The operation could not be started. "));
+    }
+}
+
+TEST(ViewController, DryRunChangesNothing)
+{
+    writeFile("/tmp/source/quillbarn.app/new");
+    writeFile("/Applications/quillbarn.app/old");
+    const auto before = readTree("/Applications");
+    for (const bool isUninstall : { true, false }) {
+        const TestWindow window({ "-uninstall" }, true);
+        EXPECT_TRUE(window.text.isVisible() && runMainLoopUntil(window.isPaneOpen));
+        EXPECT_NE(readFile(logFile).find("d unmount /Volumes/quillbarn installer/quillbarn.app\n"),
+            std::string::npos);
+        window.button.setEnabled(false);
+        ViewController& controller = *window.controller;
+        runInBackground([&] {
+            isUninstall ? controller.uninstallBundle() : controller.installBundle("/tmp/source/");
+        });
+        EXPECT_TRUE(
+            runMainLoopUntil([&] { return window.button.isEnabled() || window.isEnded(); }));
+        EXPECT_EQ(window.window->isVisible(), isUninstall);
+        EXPECT_TRUE(readFile(logFile).ends_with(" d completed\n"));
+    }
+    EXPECT_EQ(readTree("/Applications"), before);
+}
+
+TEST(ViewController, ListsAndRemovesContentOfBundle)
+{
+    std::filesystem::remove_all("/Applications/quillbarn.app");
+    writeFile("/Applications/quillbarn.app/folder/file");
+    std::string found;
+    for (const auto& file : ViewController::getFiles("/Applications/quillbarn.app/", "x/"))
+        found += file.path + (file.isDirectory ? "/, " : ", ");
+    EXPECT_EQ(found, "x/folder/, x/folder/file, ");
+    const TestWindow window;
+    runInBackground([&] { window.controller->removeBundle(TopFolder::exclude, nullptr); });
+    EXPECT_TRUE(std::filesystem::is_empty("/Applications/quillbarn.app"));
+}
+
+TEST(ViewController, KeysHaveNoEffectUntilPaneIsOpen)
+{
+    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space }) {
+        const TestWindow opening;
+        EXPECT_TRUE(runMainLoopUntil([&] {
+            QTest::keyClick(opening.window->windowHandle(), key);
+            return opening.isEnded();
+        }));
+        EXPECT_EQ(opening.window->contentsMargins().bottom(), 0); // negative while it opens
+    }
+}
+
+TEST_F(Pane, ShowsReportBeforeCallReturns)
+{
+    EXPECT_FALSE(window->windowIcon().pixmap(16).isNull());
+    EXPECT_EQ(title(), "quillbarn installer: invalid options");
+    EXPECT_EQ(help(), title());
+    WindowReport report(controller, Mode::install);
+    runInBackground([&] {
+        report.showMessage("two\nlines, not \xFF UTF-8");
+        EXPECT_TRUE(readFile(logFile).ends_with(" d two\\nlines, not \xFF UTF-8\n"));
+        EXPECT_EQ(text.toPlainText(), "invalid options\ntwo\\nlines, not \uFFFD UTF-8");
+        report.setProgress(1, 4);
+        EXPECT_EQ(2 * bar.value(), bar.maximum());
+        report.end(std::nullopt);
+    });
+    EXPECT_TRUE(runMainLoopUntil(isEnded));
+}
+
+TEST_F(Pane, FollowsNewMessagesNearEnd)
+{
+    QScrollBar& rows = *text.verticalScrollBar();
+    const auto firstLine = [&] { return text.cursorForPosition({}).blockNumber(); };
+    const auto isEndVisible
+        = [&] { return text.cursorForPosition(text.viewport()->rect().bottomRight()).atEnd(); };
+    for (int i = 0; i <= 100; ++i)
+        controller->showMessage(std::string(i < 100 ? 80 : 300, 'x'));
+    for (const int rowsFromEnd : { 0, 1, 2, 60 }) {
+        rows.setValue(rows.maximum() - rowsFromEnd);
+        const int place = rows.value(), first = firstLine();
+        controller->showMessage("new");
+        const bool isNear = rowsFromEnd * text.fontMetrics().lineSpacing() < 20;
+        EXPECT_EQ(rows.value(), isNear ? rows.maximum() : place) << rowsFromEnd;
+        for (const QSize size : { QSize(900, 700), { 400, 380 }, { 900, 500 } }) {
+            window->resize(size);
+            QCoreApplication::processEvents();
+            // The first size shows the end, unless it is far.
+            EXPECT_TRUE(rowsFromEnd < 60 ? isEndVisible() : firstLine() == first) << size.width();
+        }
+    }
+    controller->showResult();
+    EXPECT_TRUE(isEndVisible());
+}
+
+TEST_F(Pane, SizeFitsScreenAndFont)
+{
+    QWidget& view = *window;
+    const QRect screen = view.screen()->availableGeometry();
+    for (const QRect& wish : { QRect(60, 70, 520, 240), { 60, 70, 520, 2000 },
+             { -90, -80, 520, 240 }, { 700, 710, 520, 240 } }) {
+        controller->resultPainViewHeightConstraint->setConstant(0);
+        QCoreApplication::processEvents();
+        view.setGeometry({ wish.topLeft(), QSize(wish.width(), 0) });
+        const int least = view.height();
+        controller->m_resultPainViewHeight = wish.height();
+        button.setDefault(false);
+        controller->showResult();
+        EXPECT_TRUE(runMainLoopUntil([&] { return view.height() > least + 20; }));
+        EXPECT_GT(text.mapTo(&view, text.rect().bottomRight()).y(), view.height());
+        EXPECT_TRUE(runMainLoopUntil(isPaneOpen));
+        EXPECT_GE(view.height(), std::min(least + wish.height(), screen.height() - 10));
+        EXPECT_TRUE(screen.contains(view.windowHandle()->frameGeometry())) << wish.x();
+        EXPECT_EQ(view.windowHandle()->position() == wish.topLeft(), screen.contains(wish));
+    }
+
+    text.setFont(QFont(text.font().family(), 40));
+    EXPECT_GT(text.minimumSizeHint().height(), 2 * text.fontMetrics().lineSpacing());
+    EXPECT_GT(text.sizeHint().height(), 12 * text.fontMetrics().lineSpacing());
+}
