@@ -1,5 +1,4 @@
-// The least that Qt shows, beside which the start of the installer is measured: an empty window, or
-// one with a line of text.
+// The baseline for the start of the installer: an empty window of Qt, or one with a line of text.
 //
 //     smallestwindow [TEXT]
 
