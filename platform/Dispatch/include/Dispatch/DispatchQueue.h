@@ -24,6 +24,6 @@ public:
 class DispatchMainQueue : public DispatchQueue {
 public:
     // Returns when `work` has run. Unlike in Grand Central Dispatch, rethrows its exception. Any
-    // thread except the main thread, where it would never return.
+    // thread except the main thread, where it would deadlock.
     virtual void sync(const std::function<void()>& work) = 0;
 };

@@ -6,10 +6,10 @@
 
 class OpenFolders;
 
-// Changes what is beneath one folder and nothing else, even if other processes rename, replace or
-// mount things during the run: every path is resolved beneath the open folder, through no symlink
-// and across no mount point. Paths begin with the folder's own. One thread at a time. Throws an
-// NSError. Not in Foundation, but with the names of NSFileManager.
+// Changes what is beneath one folder and nothing else, even in a race with processes that rename,
+// replace or mount things during the run: every path is resolved beneath the open folder, through
+// no symlink and across no mount point. Paths begin with the folder's own. One thread at a time.
+// Throws an NSError. Not in Foundation, but with the names of NSFileManager.
 class ConfinedFolder {
 public:
     // Opens `folder`, which ends in "/" and may be reached through symlinks, and locks it if the
