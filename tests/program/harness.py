@@ -10,6 +10,8 @@ from glob import glob
 from pathlib import Path
 
 INSTALLER = os.environ["INSTALLER"]
+if os.path.exists(INSTALLER):  # other users may have no access to the build folder
+    INSTALLER = shutil.copy(INSTALLER, "/run")
 LOG = "/tmp/quillbarninstaller.log"
 APPLICATIONS, BUNDLE = "/Applications", "/Applications/quillbarn.app"
 SOURCE, MOUNTED = "/tmp/source/", "/tmp/mounted"  # the second for any volume
