@@ -80,7 +80,7 @@ class Displays(InstallerTest):
                                  command=[*command, INSTALLER])
 
     def test_close_during_and_after_the_task(self):
-        write_files(2000)
+        write_files(1000)
         screen = Screen()
         for arguments, end in (INSTALL, COMPLETED), (["-install"], ["d invalid options", "n installer exit"]):
             installer = self.start(*arguments, command=SLOWLY, env=screen.environment)
