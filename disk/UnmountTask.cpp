@@ -39,10 +39,8 @@ try {
 
 void UnmountTask::tryEject() const
 {
-    if (!pathExists() || m_ejectLoop >= attemptLimit) {
-        DispatchQueue::main().async([task = *this] { task.checkUnmountResult(); });
-        return;
-    }
+    if (!pathExists() || m_ejectLoop >= attemptLimit)
+        return DispatchQueue::main().async([task = *this] { task.checkUnmountResult(); });
 
     ++m_ejectLoop;
     const auto volumeURL = getDMGMountPointURL(m_path);
@@ -58,9 +56,10 @@ void UnmountTask::tryEject() const
 
 void UnmountTask::onEjectResult(DiskImageEjector::Result result) const
 {
-    DispatchQueue::main().async([task = *this, result] { // when the ejector has been released
+    // Runs after the completion handler has returned.
+    DispatchQueue::main().async([task = *this, result] {
         if (result == DiskImageEjector::Result::succeeded) return task.checkUnmountResult();
-        task.m_report->showRetrying();
+        if (task.m_ejectLoop < attemptLimit) task.m_report->showRetrying();
         NSThread::sleepForTimeInterval(pauseAfterFailure);
         task.tryEject();
     });
