@@ -86,6 +86,6 @@ void copyFileData(const FileDescriptor& from, const struct stat& status, const F
     struct stat copy = {};
     check(fstat, from.number(), &source);
     check(fstat, to.number(), &copy);
-    if (source.st_size != 0 && source.st_size != copy.st_size)
+    if ((status.st_size | source.st_size) != 0 && source.st_size != copy.st_size)
         throw errorOf(std::errc::no_message_available);
 }

@@ -68,6 +68,9 @@ TEST(FileData, CopyIsCompleteOrFails)
     const FileDescriptor from(open((folder + "file").c_str(), O_RDONLY));
     const FileDescriptor to(open(folder.c_str(), O_TMPFILE | O_WRONLY, 0600));
     struct stat before = {};
-    before.st_size = 3; // the file grows
-    EXPECT_THROW(copyFileData(from, before, to), std::system_error);
+    for (const off_t size : { 3, 1'000'000 }) { // the file grows, or is truncated at a hole
+        before.st_size = size;
+        EXPECT_THROW(copyFileData(from, before, to), std::system_error);
+        std::filesystem::resize_file(folder + "file", 0);
+    }
 }
