@@ -48,11 +48,10 @@ bool ignoresSyncfs(const FileDescriptor& folder)
 void flush(const Item& item, int flags, std::initializer_list<int> expected)
 {
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    const char* const name = item.name.c_str();
     const FileDescriptor file(
-        checkExcept(expected, openat, item.folder, name, flags | safely, 0600));
+        checkExcept(expected, openat, item.folder, item.name.c_str(), flags | safely, 0600));
     if (file.isOpen() && (flags & O_CREAT))
-        unlinkat(item.folder, name, 0); // also if the flush fails
+        unlinkat(item.folder, item.name.c_str(), 0); // also if the flush fails
     if (file.isOpen()) check(fsync, file.number());
 }
 
@@ -93,12 +92,11 @@ void ConfinedFolder::createDirectoryAtPath(
     const std::string& path, WithIntermediateDirectories intermediates)
 try {
     const bool acceptsExisting = intermediates == WithIntermediateDirectories::yes;
-    if (!m_folders && acceptsExisting) create();
+    if (!m_folders) create();
     const Item item = *m_folders->find(path);
-    const char* const name = item.name.c_str();
     struct stat status = {};
-    if (checkExcept({ EEXIST }, mkdirat, item.folder, name, mode_t(0777)) < 0) {
-        check(fstatat, item.folder, name, &status, AT_SYMLINK_NOFOLLOW);
+    if (checkExcept({ EEXIST }, mkdirat, item.folder, item.name.c_str(), mode_t(0777)) < 0) {
+        check(fstatat, item.folder, item.name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
         if (!acceptsExisting || !S_ISDIR(status.st_mode)) throw errorOf(std::errc::file_exists);
     }
     noteUnflushed(path);
@@ -131,8 +129,9 @@ void ConfinedFolder::requireCopyableItemAtPath(const std::string& path)
 
 void ConfinedFolder::removeItemAtPath(const std::string& path)
 try {
-    if (!m_folders) return;
-    if (const auto item = m_folders->find(path, { ELOOP, ENOENT, ENOTDIR })) removeTree(*item);
+    if (!m_folders) open(); // perhaps another installer has created it
+    const auto item = m_folders ? m_folders->find(path, { ELOOP, ENOENT, ENOTDIR }) : std::nullopt;
+    if (item) removeTree(*item);
     std::erase(m_unflushed, path);
 } catch (const std::system_error& reason) {
     throw failureToChange(reason, { path }, NSLocalizedString("Errors", "item not removed"));

@@ -14,16 +14,16 @@ class ConfinedFolder {
 public:
     // Opens `folder`, which ends in "/" and may be reached through symlinks, and locks it if the
     // file system supports locks. Fails at once if another process holds the lock. A missing folder
-    // is opened when createDirectoryAtPath creates it. The lock ends with the object or the
-    // process.
+    // is created by createDirectoryAtPath, or opened and locked by removeItemAtPath if it exists
+    // by then. The lock ends with the object or the process.
     explicit ConfinedFolder(const std::string& folder);
     ~ConfinedFolder();
     ConfinedFolder(const ConfinedFolder&) = delete;
     ConfinedFolder& operator=(const ConfinedFolder&) = delete;
 
-    // Creates a folder with mode 0777 & ~umask. With intermediate directories, an existing folder
-    // is a success, and the confining folder is created if it is missing. Unlike in Foundation, a
-    // missing parent inside the confining folder is an error.
+    // Creates a folder with mode 0777 & ~umask, and the confining folder if that is missing. With
+    // intermediate directories, an existing folder is a success. Unlike in Foundation, a missing
+    // parent inside the confining folder is an error.
     enum class WithIntermediateDirectories { no, yes };
     void createDirectoryAtPath(const std::string& path, WithIntermediateDirectories intermediates);
 
