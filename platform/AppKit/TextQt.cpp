@@ -8,13 +8,15 @@
 
 namespace {
 
-// Shows characters of a file name that could forge lines or reverse the text of a message.
+// Shows characters of a file name that could forge lines or reorder the text of a message. LRI and
+// PDI remain: some catalogues isolate names with them.
 QString escaped(const QString& text)
 {
     QString result;
     for (const QChar character : text) {
         const uint code = character.unicode();
-        const bool isUnsafe = code >= 0x2028 && code <= 0x202E; // separator or override
+        const bool isUnsafe
+            = (code >= 0x2028 && code <= 0x202E) || code == 0x2067 || code == 0x2068;
         if (isUnsafe || (character.category() == QChar::Other_Control && code != '\n'))
             result += QStringLiteral("\\u%1").arg(code, 4, 16, QLatin1Char('0'));
         else

@@ -26,14 +26,19 @@ void runInBackground(const std::function<void()>& work)
 }
 
 // The window of the installer on the screen, and its controller, started with the arguments. The
-// log begins at that moment.
+// log begins at that moment. The attributes are those of the thread of the task.
 struct TestWindow {
-    explicit TestWindow(const std::vector<const char*>& arguments = {}, bool test = false)
+    explicit TestWindow(const std::vector<const char*>& arguments = {}, bool test = false,
+        const pthread_attr_t* attributes = nullptr)
     {
+        pthread_attr_t usual;
+        pthread_getattr_default_np(&usual);
         NSProcessInfo::initialize(int(arguments.size()), arguments.data());
         writeFile(logFile);
         controller->m_test = test;
+        if (attributes) pthread_setattr_default_np(attributes);
         window->setContentViewController(controller);
+        pthread_setattr_default_np(&usual); // Qt waits for threads that draw, even if none starts
         window->makeKeyAndOrderFront();
     }
 
@@ -49,18 +54,22 @@ struct TestWindow {
     const std::function<bool()> isEnded = [this] { return window->isHidden(); };
 };
 
-// The pane opens, because there is no option. No task runs.
+// The pane opens, because there is no option. No task runs. Keys have no effect meanwhile.
 struct Pane : testing::Test, TestWindow {
-    Pane() { EXPECT_TRUE(runMainLoopUntil(isPaneOpen)); }
+    Pane()
+    {
+        for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space })
+            QTest::keyClick(window->windowHandle(), key);
+        EXPECT_TRUE(runMainLoopUntil(isPaneOpen) && !isEnded());
+    }
 };
 
 }
 
 TEST(ViewController, TitleShowsModeAndOutcome)
 {
-    pthread_attr_t usual;
-    pthread_getattr_default_np(&usual);
-    pthread_attr_t tooLarge = usual;
+    pthread_attr_t tooLarge;
+    pthread_attr_init(&tooLarge);
     pthread_attr_setstacksize(&tooLarge, std::size_t(1) << 50);
     writeFile("/tmp/source/quillbarn.app/file");
     foundation.mountPoints = { "/tmp" };
@@ -74,14 +83,13 @@ TEST(ViewController, TitleShowsModeAndOutcome)
              { { "-install2", "/tmp/source" }, "Ejecting the disk image: trying again", unejected },
          }) {
         const TestWindow window(arguments);
+        window.window->QWidget::close(); // has no effect while the task runs
         EXPECT_TRUE(runMainLoopUntil(window.isEnded));
         EXPECT_EQ(window.title(), title);
         EXPECT_EQ(window.bar.value(), window.bar.maximum());
         EXPECT_FALSE(window.button.isEnabled() || window.text.isVisibleTo(window.window.get()));
 
-        pthread_setattr_default_np(&tooLarge); // no thread can start
-        const TestWindow unstarted(arguments);
-        pthread_setattr_default_np(&usual);
+        const TestWindow unstarted(arguments, false, &tooLarge);
         EXPECT_TRUE(runMainLoopUntil(unstarted.isPaneOpen));
         EXPECT_EQ(unstarted.title(), titleOfFailure);
         EXPECT_TRUE(unstarted.help().starts_with("The operation could not be started. "));
@@ -124,18 +132,6 @@ TEST(ViewController, ListsAndRemovesContentOfBundle)
     EXPECT_TRUE(std::filesystem::is_empty("/Applications/quillbarn.app"));
 }
 
-TEST(ViewController, KeysHaveNoEffectUntilPaneIsOpen)
-{
-    for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space }) {
-        const TestWindow opening;
-        EXPECT_TRUE(runMainLoopUntil([&] {
-            QTest::keyClick(opening.window->windowHandle(), key);
-            return opening.isEnded();
-        }));
-        EXPECT_EQ(opening.window->contentsMargins().bottom(), 0); // negative while it opens
-    }
-}
-
 TEST_F(Pane, ShowsReportBeforeCallReturns)
 {
     EXPECT_FALSE(window->windowIcon().pixmap(16).isNull());
@@ -143,9 +139,10 @@ TEST_F(Pane, ShowsReportBeforeCallReturns)
     EXPECT_EQ(help(), title());
     WindowReport report(controller, Mode::install);
     runInBackground([&] {
-        report.showMessage("two\nlines, not \xFF UTF-8");
-        EXPECT_TRUE(readFile(logFile).ends_with(" d two\\nlines, not \xFF UTF-8\n"));
-        EXPECT_EQ(text.toPlainText(), "invalid options\ntwo\\nlines, not \uFFFD UTF-8");
+        report.showMessage("two\nlines, not \xFF UTF-8, \u202E\u2068");
+        EXPECT_TRUE(readFile(logFile).ends_with(" d two\\nlines, not \xFF UTF-8, \u202E\u2068\n"));
+        EXPECT_EQ(
+            text.toPlainText(), "invalid options\ntwo\\nlines, not \uFFFD UTF-8, \\u202e\\u2068");
         report.setProgress(1, 4);
         EXPECT_EQ(2 * bar.value(), bar.maximum());
         report.end(std::nullopt);
@@ -175,7 +172,7 @@ TEST_F(Pane, FollowsNewMessagesNearEnd)
         }
     }
     controller->showResult();
-    EXPECT_TRUE(isEndVisible());
+    EXPECT_TRUE(isEndVisible() && window->QWidget::close());
 }
 
 TEST_F(Pane, SizeFitsScreenAndFont)
