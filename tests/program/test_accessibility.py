@@ -52,7 +52,8 @@ class Accessibility(InstallerTest):
 
         write_files(600)
         run("mount", "-t", "tmpfs", "-o", "size=3m", "none", APPLICATIONS)
-        installer = self.start(*INSTALL, command=SLOWLY, env=os.environ)
+        slowly = traced("linkat", "--inject=linkat:delay_enter=2000")  # so that the progress can be observed
+        installer = self.start(*INSTALL, command=slowly, env=os.environ)
         await_event(VALUE, 0, "progress bar")
         progress = describe(events[0][2])[2]
         await_event(FOCUS, True, "button")  # when the pane is open
@@ -67,8 +68,7 @@ class Accessibility(InstallerTest):
         self.assertEqual(list(visible_parts(desktop)), [
             ("dialog", FAILURE, ""), ("label", FAILURE, ""), bar, ("image", "Warning", ""), text, button])
         self.assertLess(progress, bar[2])
-        next_line = len(messages[0]) + 1
-        for key, *event in ("shift+Tab", FOCUS, True), ("ctrl+Home", CARET, 0), ("Down", CARET, next_line):
+        for key, *event in ("shift+Tab", FOCUS, True), ("ctrl+Home", CARET, 0), ("Down", CARET, len(messages[0]) + 1):
             screen.press(key)
             await_event(*event, "text")
         self.press_until_closed(screen, installer)

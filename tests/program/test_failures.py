@@ -6,7 +6,7 @@ from resource import RLIMIT_FSIZE, RLIMIT_NOFILE, RLIMIT_STACK, setrlimit
 from harness import *
 
 BOTH = INSTALL, UNINSTALL
-OUTSIDE = "/tmp/outside"
+OUTSIDE = BUNDLE + "2"
 SAME = "The folder “{}” could not be installed. The folder is the same as the installed folder “{}”"
 IS_SYMLINK = f"The application “{BUNDLE}” could not be changed. The application is a symlink to “{OUTSIDE}”."
 SPECIAL = f"“{NEW}/other” could not be copied. The source is a device, a pipe or a socket."
@@ -20,7 +20,7 @@ REFUSALS = (
     (f"mkdir {BUNDLE}/sub sub; mount --bind {BUNDLE}/sub sub", SAME.format(NEW + "/sub", BUNDLE + "/sub")),
     (f"bindfs {APPLICATIONS} /tmp/mounted", SAME.format("/tmp/mounted/quillbarn.app", BUNDLE),
      ("-install", "/tmp/mounted/")),
-    (f"rm -r {BUNDLE}; bindfs {SOURCE} {APPLICATIONS}", SAME.format(NEW, BUNDLE)),
+    (f"rm -r {BUNDLE}*; bindfs {SOURCE} {APPLICATIONS}", SAME.format(NEW, BUNDLE)),
     (f"mkdir /tmp/lower /tmp/work; mount -t overlay none {APPLICATIONS} "
      f"-o lowerdir=/tmp/lower,upperdir={SOURCE},workdir=/tmp/work", SAME.format(NEW, BUNDLE)),
     ("mkfifo other", SPECIAL), ("mknod other c 1 3", SPECIAL),
@@ -29,7 +29,7 @@ REFUSALS = (
     ("for i in $(seq 20); do mkdir $i; ln -s ../$((i + 1)) $i/a; cp -P $i/a $i/b; done", "Too many symlinks"),
     (f"ln -s {300 * 'x'} link", f"“{NEW}/link” could not be examined. A name or a path is too long"),
     (f"truncate -s 8M /tmp/exfat; mkfs.exfat /tmp/exfat; disk=$(losetup -f --show /tmp/exfat); "
-     f"trap 'losetup -d $disk' EXIT; rm -r {BUNDLE}; mount.exfat-fuse $disk {APPLICATIONS}; "
+     f"trap 'losetup -d $disk' EXIT; rm -r {BUNDLE}*; mount.exfat-fuse $disk {APPLICATIONS}; "
      f"mkdir -p {BUNDLE}/left Res res; touch Res/a res/b", "The volume does not distinguish this name from"),
     (f"ln -s {OUTSIDE} {BUNDLE}/link", f"symlink “{BUNDLE}/link” in the application points", *BOTH),
     (f"rm -r {BUNDLE}; ln -s {OUTSIDE} {BUNDLE}", IS_SYMLINK, *BOTH),
@@ -70,7 +70,7 @@ class Failure(InstallerTest):
             self.expect("rm -r $PWD", failure.format(NEW + "/"), env={"LANGUAGE": language})
 
     def test_failure_at_an_entry(self):
-        self.expect("", "file size limit (EFBIG). The copy of quillbarn in “/Applications” is incomplete.",
+        self.expect(f"rm -r {OUTSIDE}", "(EFBIG). The copy of quillbarn in “/Applications” is incomplete.",
                     step=f"d  copy {APPLICATIONS}/{FILE}", left=dict.fromkeys([FILE[:13], FILE[:22]]),
                     preexec_fn=lambda: setrlimit(RLIMIT_FSIZE, (1_000_000, 1_000_000)))
         self.expect(f"cd {BUNDLE}; rm *; mkdir sub; mount --bind {OUTSIDE} sub", "A mount point is on the",

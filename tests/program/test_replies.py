@@ -17,8 +17,8 @@ INTERFACES = METHOD.format("org.freedesktop.DBus.ObjectManager", "GetManagedObje
         ("Filesystem", "Unmount"), ("Drive", "Eject"), ("Loop", "Delete")))
 PLACE = "[b'/Volumes/quillbarn installer']"
 OBJECTS = ("({objectpath 'PATH': {'SERVICE.Filesystem': {'MountPoints': <PLACE>}, 'SERVICE.Drive': "
-           "{'Ejectable': <true>}, 'SERVICE.Block': {'Drive': <objectpath 'PATH'>}}},)")
-OBJECTS = OBJECTS.replace("SERVICE", SERVICE).replace("PATH", PATH).replace("PLACE", PLACE)
+           "{'Ejectable': <true>}, 'SERVICE.Block': {'Drive': <objectpath 'PATH'>}}},)"
+           ).replace("SERVICE", SERVICE).replace("PATH", PATH).replace("PLACE", PLACE)
 REPLIES = {"GetManagedObjects": OBJECTS, "Unmount": "()", "Eject": "()"}
 GRANTED = [{}] + [{"GetManagedObjects": OBJECTS.replace("true>}", f"true>}}, '{SERVICE}.{end}")} for end in (
     "Partition': {'Table': <''>}",  # a property of an undocumented type is ignored
