@@ -6,7 +6,7 @@
 
 namespace {
 
-// Removes the quotes. A quote with a combining mark does not match.
+// Removes one pair of single quotes. A quote followed by a combining mark is a different character.
 std::string unquoted(const std::string& argument)
 {
     const bool isQuoted = argument.size() >= 2 && NSString::hasPrefix(argument, "'")

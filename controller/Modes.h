@@ -6,7 +6,6 @@
 
 class ViewController;
 
-// The properties of a mode.
 struct ModeInfo {
     Mode mode;
     std::string argument; // on the command line

@@ -43,9 +43,9 @@ public:
     const std::string bundleDir = "quillbarn.app";
     const std::string applicationDir = "/Applications/";
     CGFloat m_resultPainViewHeight = 0; // of the open pane, in points
-    std::int64_t m_ejectLoop = 0; // attempts to unmount; never written by two threads at a time
+    std::int64_t m_ejectLoop = 0; // attempts to unmount; see UnmountTask
     // Only tests set it: the run unmounts a fixed path, other tasks are dry runs, and the pane and
-    // the window stay open.
+    // the window stay open, except that an install closes the window.
     bool m_test = false;
 
     using Mode = ::Mode;
@@ -66,7 +66,8 @@ public:
     void showFailure(const std::string& title, const std::string& description);
 
     // The tasks, on background threads. They return when they have reported the end of the run, but
-    // unmounting continues on the main thread after its first attempt.
+    // unmounting continues on the main thread after its first attempt. `sourcePath` must end in
+    // "/", because names are appended to it; this is not checked.
     void installBundle(const std::string& sourcePath);
     void uninstallBundle();
     void unmountDiskImage(const std::string& path);

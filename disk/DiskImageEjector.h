@@ -12,8 +12,8 @@ public:
     using Completion = std::function<void(Result)>;
 
     // Starts the detach and returns. To be called once per ejector, from any thread. `volumeURL` is
-    // the URL of a mount point. `completion` runs exactly once, on the main thread, after this has
-    // returned. The ejector holds a reference to itself until then.
+    // the URL of a mount point. `completion` runs exactly once, asynchronously on the main thread.
+    // The ejector holds a reference to itself until then.
     void eject(const NSURL& volumeURL, Completion completion);
 
 private:

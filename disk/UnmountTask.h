@@ -11,8 +11,8 @@
 // path no longer exists. Each step that runs later has a copy of the task.
 class UnmountTask {
 public:
-    // `ejectLoop` counts the attempts. It is never written by two threads at once, and must outlive
-    // all copies of the task.
+    // `ejectLoop` counts the attempts. Only the task writes it, first on the thread of run(), then
+    // on the main thread. It must outlive all copies of the task.
     UnmountTask(std::shared_ptr<TaskReport> report, std::string path, std::int64_t& ejectLoop);
 
     // Returns when the first attempt has started or nothing is left to do. Everything else runs on

@@ -68,7 +68,7 @@ void BundleTask::uninstall()
 
 void BundleTask::run(const std::function<void()>& work, const std::string& incompleteCopy)
 {
-    assert(!NSThread::isMainThread()); // which shows the progress
+    assert(!NSThread::isMainThread()); // setProgress() waits for the main thread
     std::optional<NSError> failure = failureOf(work);
     const std::string folder = m_applicationDir.substr(0, m_applicationDir.size() - 1);
     if (!failure) {

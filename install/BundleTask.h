@@ -13,8 +13,8 @@
 enum class DryRun { no, yes };
 enum class TopFolder { exclude, include };
 
-// Installs a bundle in the applications folder entry by entry, in place of the installed one, or
-// removes that. One run per object, on a background thread.
+// Installs a bundle entry by entry, replacing an installed one, or uninstalls it. One run per
+// object. install() and uninstall() require a background thread.
 class BundleTask {
 public:
     // `applicationDir` ends in "/" and contains the installed bundle, named `bundleDir`. A dry run
@@ -23,7 +23,8 @@ public:
     BundleTask(
         TaskReport& report, std::string applicationDir, std::string bundleDir, DryRun dryRun);
 
-    // Return when the end is reported. `sourcePath` ends in "/" and contains the new bundle.
+    // Return when the end is reported. `sourcePath` contains the new bundle. It must end in "/",
+    // because names are appended to it; this is not checked.
     void install(const std::string& sourcePath);
     void uninstall();
 

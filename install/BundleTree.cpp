@@ -19,7 +19,7 @@ struct TreeWalk {
 
     // `folder` has no "/" at its end, `prefix` has.
     void walk(const std::string& folder, const std::string& prefix, const std::string& realPath);
-    std::string folderBehind(const std::string& symlink);
+    std::string targetOf(const std::string& symlink);
 };
 
 void TreeWalk::walk(
@@ -35,13 +35,13 @@ void TreeWalk::walk(
         files.push_back({ status.isDirectory, prefix + name });
         if (status.isDirectory)
             walk(path, prefix + name + "/",
-                status.isSymlink ? folderBehind(path) : realPath + path.substr(folder.size()));
+                status.isSymlink ? targetOf(path) : realPath + path.substr(folder.size()));
     }
     ancestors.pop_back();
 }
 
 // Detects loops by paths: some file systems give all folders the same device and inode.
-std::string TreeWalk::folderBehind(const std::string& symlink)
+std::string TreeWalk::targetOf(const std::string& symlink)
 {
     std::string folder = fileManager.stringByResolvingSymlinksInPath(symlink);
     if (std::ranges::find(ancestors, folder) != ancestors.end())

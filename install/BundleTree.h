@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-// Lists the tree of a bundle.
 class BundleTree {
 public:
     struct File {

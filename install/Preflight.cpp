@@ -84,7 +84,8 @@ void Preflight::requireReplaceable(ConfinedFolder& applications) const
         if (file.path.rfind('/') == m_bundleDir.size()) // in the top folder
             requireFreeName(file.path);
 
-    // If a new folder also appears in another folder, both are the same, through any file system.
+    // The source can be the installed bundle, seen through another file system (bindfs, overlay).
+    // Then a folder created in one appears in the other.
     const std::string probe = "/.quillbarn-" + std::to_string(std::random_device()());
     applications.createDirectoryAtPath(
         m_bundle + probe, ConfinedFolder::WithIntermediateDirectories::no);
@@ -99,8 +100,9 @@ void Preflight::requireReplaceable(ConfinedFolder& applications) const
     applications.removeItemAtPath(m_bundle + probe);
 }
 
-// A dangling symlink is not listed and therefore remains in the top folder. One that a killed
-// install has left, equal to that of the source, is no conflict.
+// A dangling symlink is not listed, so it stays in the top folder. It is a conflict, unless it
+// equals the symlink of the source and its target is in the bundle: then a killed install has left
+// it and the copy of its target follows.
 void Preflight::requireFreeName(const std::string& path) const
 {
     const std::string installed = m_applicationDir + path;

@@ -23,7 +23,8 @@ public:
 
     // Returns the installed bundle, its top folder first, or nothing if there is none. Requires
     // that it is not a symlink, contains no symlink to a folder outside, and shares no folder with
-    // the listed source.
+    // the listed source. Limit: if both are on one file system that gives all folders the same
+    // inode (some FUSE file systems), every replacement is refused.
     Files listInstalled() const;
 
     // Requires that the listed source, if any, can replace the listed installed bundle: that it is

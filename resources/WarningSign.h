@@ -3,8 +3,8 @@
 #include <QLabel>
 #include <QStyle>
 
-// Loads the icon of the style when it becomes visible: at the start it would cost a seventh of the
-// start-up time.
+// Loads the icon of the style when the sign becomes visible. Loading it at the start would take
+// a seventh of the start-up time.
 class WarningSign : public QLabel {
 public:
     using QLabel::QLabel;

@@ -15,8 +15,8 @@ public:
     // Returns when the message is in the window and in the log. Safe on any thread.
     virtual void showMessage(const std::string& message) = 0;
 
-    // Shows that the entry at `index` of `count` entries is done; the bar may lag behind by one
-    // frame. Background threads only.
+    // Shows that the entry at `index` of `count` entries is done. `index` starts at 0. Returns when
+    // the bar has the value; the bar is repainted up to one frame later. Background threads only.
     virtual void setProgress(std::int64_t index, std::int64_t count) = 0;
 
     // Shows that an attempt failed and the task retries. Main thread only.

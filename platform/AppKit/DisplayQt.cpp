@@ -66,7 +66,8 @@ void handleToolkitMessages() { qInstallMessageHandler(handle); }
 
 void detectLostDisplay()
 {
-    // Up to version 6.8, the toolkit calls exit() when it loses an X server. Nothing else does.
+    // If it loses an X server, the toolkit calls exit() or ends the main loop, depending on its
+    // version. Both are handled and neither is assumed. Nothing else calls exit().
     std::atexit(endWithoutDisplay);
 }
 

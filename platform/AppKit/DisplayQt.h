@@ -2,7 +2,7 @@
 
 #include <string>
 
-// What happens if there is no display, or no longer one.
+// Handling of a missing or lost display.
 
 // Prints a line that begins with the program's name to standard error.
 void printError(const std::string& message);
@@ -11,7 +11,7 @@ void printError(const std::string& message);
 // display: the process ends with 1 and a line on standard error that states what to do.
 void handleToolkitMessages();
 
-// From now on the loss of the display ends the process; see applicationDidLoseDisplay().
+// After this call, the loss of the display ends the process; see applicationDidLoseDisplay().
 void detectLostDisplay();
 
 // Ends the process because the display is lost. Any thread; the first caller does it.

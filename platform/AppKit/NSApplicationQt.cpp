@@ -42,7 +42,7 @@ void openStandardDescriptors()
     if (application.isToBeActive()) window->orderFrontRegardless();
     activateDispatchQueues();
     QApplication::exec();
-    endWithoutDisplay(); // since version 6.11, the loop ends when the toolkit loses an X server
+    endWithoutDisplay(); // the loop may end if the toolkit loses an X server; see DisplayQt
 }
 
 }

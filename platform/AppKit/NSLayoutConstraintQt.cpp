@@ -22,8 +22,8 @@ void WindowQt::animateConstant(CGFloat constant)
     layout()->setSizeConstraint(QLayout::SetNoConstraint); // otherwise it would grow at once
     m_pane->setMinimumHeight(int(constant));
     setConstant(constant);
-    const int wish = layout()->minimumSize().height();
-    const int excess = wish - makeRoom({ width(), wish }).height();
+    const int wantedHeight = layout()->minimumSize().height();
+    const int excess = wantedHeight - makeRoom({ width(), wantedHeight }).height();
     m_pane->setMinimumHeight(std::max(m_pane->minimumSizeHint().height(), int(constant) - excess));
 
     const int covered = std::max(0, layout()->minimumSize().height() - before);

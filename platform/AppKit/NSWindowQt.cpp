@@ -34,7 +34,6 @@ void WindowQt::enableKeyEquivalentForDefaultButton()
     m_defaultButton->setFocus();
 }
 
-// Waits for the first frame, but at most 1 s: the desktop may keep the window hidden.
 void WindowQt::makeKeyAndOrderFront()
 {
     resize(QSize(width(), sizeHint().height()).boundedTo(screen()->availableGeometry().size()));
@@ -42,7 +41,7 @@ void WindowQt::makeKeyAndOrderFront()
     for (const QScreen* screen : QGuiApplication::screens())
         connect(screen, &QScreen::availableGeometryChanged, this, &WindowQt::fitScreen);
     connect(qApp, &QApplication::screenRemoved, this, &WindowQt::fitScreen, Qt::QueuedConnection);
-    QTimer limit;
+    QTimer limit; // the desktop may keep the window hidden
     limit.setSingleShot(true);
     limit.start(1000); // milliseconds
     while (!windowHandle()->isExposed() && limit.isActive())

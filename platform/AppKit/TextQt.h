@@ -10,11 +10,11 @@
 #include <string>
 
 // The toolkit's text widget, which scrolls by itself, in rows. It gets the text when it becomes
-// visible; until then a line costs the same at any length of the text.
+// visible; until then the time to append does not depend on the length of the text.
 class TextQt : public ViewQt<QPlainTextEdit, NSTextField, NSScrollView> {
 public:
     explicit TextQt(QWidget* parent);
-    void setRows(int rows) { m_rows = rows; } // of the preferred height, one for the margins
+    void setRows(int rows) { m_rows = rows; } // preferred height in rows; one is for the margins
     QSize sizeHint() const override { return { 400, int(m_rows * rowHeight()) }; }
     QSize minimumSizeHint() const override { return sizeHint() / 4; }
 

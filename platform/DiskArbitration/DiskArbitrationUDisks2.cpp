@@ -22,9 +22,10 @@ public:
     const DASessionRef session;
     const std::string mountPoint;
 
-    // Set by unmount(), because the service forgets the mount points and maybe the device.
+    // Set by unmount(): afterwards the service no longer reports the mount points, and sometimes
+    // not the device.
     QDBusObjectPath image = {}; // the loop device of the whole disk image, or none
-    bool isSelfDetaching = false; // after the unmount
+    bool hasAutoclear = false; // the kernel detaches it after the unmount
     QDBusObjectPath drive = {}; // if it is ejectable
 };
 
@@ -38,7 +39,7 @@ bool DADisk::unmount(const UDisks2& service)
     const auto wholeDisk = volume->table.path().isEmpty() ? volume.key() : volume->table;
     const UDisks2::Object device = objects.value(wholeDisk);
     image = *device.backingFile.constData() ? wholeDisk : QDBusObjectPath();
-    isSelfDetaching = device.isSelfDetaching;
+    hasAutoclear = device.hasAutoclear;
     drive = objects.value(volume->drive).isEjectable ? volume->drive : QDBusObjectPath();
 
     // Each call removes one mount point. The limit is for a service that removes none.
@@ -55,9 +56,9 @@ bool DADisk::eject(const UDisks2& service)
     if (image.path().isEmpty())
         return !drive.path().isEmpty() && service.call(drive, "Drive", "Eject");
     // The reply is ignored: if the device is in use, it is success too, and the kernel detaches the
-    // image after the last close. An image that detaches itself may be gone already, and UDisks
+    // image after the last close. With autoclear, the image may be gone already, and UDisks
     // 2.10.1 may crash when it refuses the call for that reason.
-    if (!isSelfDetaching) service.call(image, "Loop", "Delete");
+    if (!hasAutoclear) service.call(image, "Loop", "Delete");
     return true;
 }
 

@@ -18,7 +18,7 @@ public:
         QDBusObjectPath table; // of a partition: the whole disk
         QDBusObjectPath drive;
         QByteArray backingFile; // of a loop device; ends at its first NUL
-        bool isSelfDetaching = false; // a loop device with the autoclear flag
+        bool hasAutoclear = false; // a loop device; the kernel detaches it after the unmount
         bool isEjectable = false;
     };
     using Objects = QMap<QDBusObjectPath, Object>;

@@ -15,7 +15,7 @@
 
 namespace {
 
-// What the toolkit and two caches of open folders need.
+// Descriptors that the toolkit and two caches of open folders require.
 constexpr std::size_t requiredDescriptors = 40;
 
 // Readable while the main thread is requested to run its queue.
@@ -81,6 +81,7 @@ DispatchQueue& DispatchQueue::global()
 void prepareDispatchQueues()
 try {
     mainQueue();
+    // Checks the descriptor limit by opening that many.
     std::vector<FileDescriptor> unused;
     while (unused.size() < requiredDescriptors)
         unused.emplace_back(check(fcntl, wakeUpEvent(), F_DUPFD_CLOEXEC, 0));

@@ -11,7 +11,7 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr std::chrono::milliseconds frame { 8 };
+constexpr std::chrono::milliseconds timeSlice { 8 };
 
 // What a thread that submits synchronously waits for. Shared with the queue, which may still access
 // it after the thread has woken.
@@ -62,7 +62,7 @@ void MainQueue::async(std::function<void()> work)
 void MainQueue::run()
 {
     assert(NSThread::isMainThread());
-    const auto end = Clock::now() + frame;
+    const auto end = Clock::now() + timeSlice;
     do {
         while (runNext()) {
             if (Clock::now() < end) continue;

@@ -18,8 +18,8 @@ public:
     void async(std::function<void()> work) override;
     void sync(const std::function<void()>& work) override;
 
-    // Runs the queued work and what follows within a short wait. Returns after one frame, so that
-    // the main loop can repaint and process input.
+    // Runs the queued work and what follows within a short wait. After 8 ms, returns when the
+    // current work has run, so that the main loop can repaint and process input.
     void run();
 
 private:

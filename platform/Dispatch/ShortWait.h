@@ -7,14 +7,15 @@
 // usually lasts.
 //
 // Spins for 1 ms. After an unsuccessful spin, the next 1, 3, 7 … 255 unsuccessful spins last only
-// 50 µs, the cost of one wake-up, so that a busy machine can use its cores. Each success halves
-// that number. Does not spin on a single core. One thread at a time.
+// 50 µs, the cost of one wake-up, so that a busy machine can use its cores. Each success halves the
+// number that the next unsuccessful long spin starts from. Does not spin on a single core. One
+// thread at a time.
 class ShortWait {
 public:
     // Returns whether `isOver` became true during the spin. Otherwise the caller sleeps.
     bool spinUntil(const std::atomic<bool>& isOver);
 
 private:
-    int m_rests = 0; // short spins left
-    int m_failures = 0; // short spins after the last unsuccessful long one
+    int m_shortSpinsLeft = 0;
+    int m_shortSpins = 0; // after the last unsuccessful long spin
 };

@@ -20,19 +20,19 @@ bool hasOtherCore()
 bool ShortWait::spinUntil(const std::atomic<bool>& isOver)
 {
     using namespace std::chrono_literals;
-    constexpr int mostRests = 255;
+    constexpr int mostShortSpins = 255;
     constexpr auto now = std::chrono::steady_clock::now;
-    const bool rests = m_rests > 0;
-    const auto longest = rests ? 50us : 1000us;
+    const bool isShort = m_shortSpinsLeft > 0;
+    const auto longest = isShort ? 50us : 1000us;
     const auto end = now() + (hasOtherCore() ? longest : 0us);
     bool succeeded = false;
     // Reading the clock is also the pause between two reads of the other core's cache line.
     while (!(succeeded = isOver.load(std::memory_order_acquire)) && now() < end) {}
     if (succeeded)
-        m_failures /= 2;
-    else if (rests)
-        --m_rests;
+        m_shortSpins /= 2;
+    else if (isShort)
+        --m_shortSpinsLeft;
     else
-        m_rests = m_failures = std::min(2 * m_failures + 1, mostRests);
+        m_shortSpinsLeft = m_shortSpins = std::min(2 * m_shortSpins + 1, mostShortSpins);
     return succeeded;
 }

@@ -16,10 +16,10 @@ namespace {
 
 using Scope = OpenFolders::Scope;
 
-// Some file systems do not support locks.
-bool isLockedByAnother(const FileDescriptor& folder)
+// Returns false if another process holds the lock. Succeeds on a file system without locks.
+bool tryLock(const FileDescriptor& folder)
 {
-    return uninterrupted(flock, folder.number(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK;
+    return uninterrupted(flock, folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 void removeTree(const Item& item)
@@ -50,8 +50,8 @@ void flush(const Item& item, int flags, std::initializer_list<int> expected)
     constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     const FileDescriptor file(
         checkExcept(expected, openat, item.folder, item.name.c_str(), flags | safely, 0600));
-    if (file.isOpen() && (flags & O_CREAT))
-        unlinkat(item.folder, item.name.c_str(), 0); // also if the flush fails
+    if (file.isOpen() && (flags & O_CREAT)) // before fsync, so that no file remains if it fails
+        unlinkat(item.folder, item.name.c_str(), 0);
     if (file.isOpen()) check(fsync, file.number());
 }
 
@@ -71,7 +71,7 @@ try {
     FileDescriptor folder
         = openFolder({ AT_FDCWD, m_folder }, O_RDONLY, Scope::anywhere, { ENOENT });
     if (!folder.isOpen()) return;
-    if (isLockedByAnother(folder))
+    if (!tryLock(folder))
         throw NSError(NSLocalizedString("Errors", "folder is locked"), { m_folder });
     m_ignoresSyncfs = ignoresSyncfs(folder);
     m_folders = std::make_unique<OpenFolders>(std::move(folder), m_folder, Scope::beneath);

@@ -51,7 +51,8 @@ template <class Call, class... Arguments> auto uninterrupted(Call* call, Argumen
     }
 }
 
-// The same; throws an error unless it is expected.
+// Like uninterrupted(). Returns a negative result if errno is in `expected`; throws any other error
+// as std::system_error.
 template <class Call, class... Arguments>
 auto checkExcept(std::initializer_list<int> expected, Call* call, Arguments... arguments)
 {
@@ -60,7 +61,7 @@ auto checkExcept(std::initializer_list<int> expected, Call* call, Arguments... a
     return result;
 }
 
-// The same; throws every error.
+// Like checkExcept(), but throws every error.
 template <class Call, class... Arguments> auto check(Call* call, Arguments... arguments)
 {
     return checkExcept({}, call, arguments...);

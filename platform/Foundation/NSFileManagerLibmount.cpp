@@ -10,8 +10,9 @@ namespace {
 using Table = std::unique_ptr<libmnt_table, decltype(&mnt_unref_table)>;
 using Iterator = std::unique_ptr<libmnt_iter, decltype(&mnt_free_iter)>;
 
-// A bind mount of a folder, or a btrfs subvolume. A btrfs with a default subvolume is mounted at
-// that, so the first mount of a btrfs is a volume, even if its root is a subvolume.
+// Returns whether the mount shows only a part of a volume: a bind mount of a folder, or a further
+// btrfs subvolume. The first mount of a btrfs counts as the volume even if its root is a subvolume,
+// because a default subvolume is mounted by default.
 bool isPartOfAnother(libmnt_table* volumes, libmnt_fs* volume)
 {
     const char* const folder = mnt_fs_get_root(volume);

@@ -10,7 +10,8 @@
 
 namespace {
 
-// Two caches are in use during a copy, beside the descriptors of the toolkit.
+// Each cache may use an eighth of the descriptors. A copy uses two caches; the toolkit needs the
+// rest.
 std::size_t mostOpenFolders()
 {
     static const std::size_t most = std::size_t(std::clamp(sysconf(_SC_OPEN_MAX) / 8, 4L, 128L));

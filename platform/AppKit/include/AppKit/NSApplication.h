@@ -23,7 +23,7 @@ public:
     virtual bool applicationShouldTerminateAfterLastWindowClosed(NSApplication& sender) = 0;
 };
 
-// Main thread only.
+// Main thread only, except delegate() after it has been set.
 class NSApplication {
 public:
     static NSApplication& sharedApplication();
@@ -49,9 +49,9 @@ private:
 };
 
 // Loads the main interface, shows its window and runs the main loop. Background work starts when
-// the first frame is on the screen, or one second later. Does not return: when the last window has
-// closed and the delegate agrees, the process ends with terminate(). If the display cannot be
-// opened, the process ends with 1 and a line on standard error that states what to do.
+// the first frame is on the screen, after one second at the latest. Does not return: when the last
+// window has closed and the delegate agrees, the process ends with terminate(). If the display
+// cannot be opened, the process ends with 1 and a line on standard error that states what to do.
 int NSApplicationMain(int argc, const char* const argv[]);
 
 // Opens the main interface, creates the delegate, and connects everything. Unlike in AppKit, where

@@ -6,7 +6,7 @@
 
 // A text that can be selected, copied and read by a screen reader, wrapped to rows. Bytes that are
 // not UTF-8 show as U+FFFD. Shown as \uXXXX: control characters (except line feed), line separators
-// and direction overrides.
+// and most characters that change the text direction.
 class NSTextField : public NSView {
 public:
     virtual void setStringValue(std::string_view text) = 0;
@@ -20,7 +20,8 @@ public:
     virtual NSRect frame() const = 0;
     virtual void setFrame(const NSRect& frame) = 0;
 
-    // Sets the height of the frame to that of the text. Unlike in AppKit, it is always so.
+    // Sets the height of the frame to that of the text. Unlike in AppKit, has no effect, because
+    // the height always fits.
     virtual void sizeToFit() = 0;
 
     // The visible part of the text.

@@ -12,7 +12,6 @@ class NSWindow {
 public:
     virtual ~NSWindow() = default;
 
-    // The view that fills the window.
     virtual std::shared_ptr<NSView> contentView() = 0;
 
     virtual void setTitle(const std::string& title) = 0;

@@ -27,8 +27,9 @@ using DADiskUnmountCallback
     = void (*)(const DADiskRef& disk, const DADissenter* dissenter, void* context);
 using DADiskEjectCallback = DADiskUnmountCallback;
 
-// Requests return at once. They are refused if the service cannot be reached within 20 seconds, but
-// have no timeout while the service works, because it may flush data or ask the user.
+// Requests return at once. They are refused if the connection to the bus takes longer than 20
+// seconds, DADiskUnmount also if the service does not list its objects within 25 seconds. The
+// unmount and eject calls have no timeout, because the service may flush data or ask the user.
 
 // Unmounts the volume from all its mount points. Refused as soon as one of them is busy; those
 // unmounted by then stay unmounted.

@@ -27,15 +27,16 @@ public:
     enum class WithIntermediateDirectories { no, yes };
     void createDirectoryAtPath(const std::string& path, WithIntermediateDirectories intermediates);
 
-    // Copies a file with mode (without set-ID bits), owner if permitted, xattrs (without
-    // capabilities), ACL and times, or a symlink as a symlink. Metadata that the volume or the
-    // user's permissions cannot keep is omitted. The copy is complete or absent, also after
+    // Copies a file with mode (without set-ID bits), owner and group (both or neither), xattrs
+    // (without capabilities), ACL and times, or a symlink as a symlink. Metadata that the volume or
+    // the user's permissions cannot keep is omitted. The copy is complete or absent, also after
     // SIGKILL; on a file system without O_TMPFILE a hidden temporary file may remain. An existing
     // item is an error, except a symlink with the same target. Unlike Foundation, refuses folders,
     // devices, FIFOs and sockets. `path` may be anywhere.
     void copyItemAtPath(const std::string& path, const std::string& toPath);
 
-    // Throws what copyItemAtPath would throw because of its source.
+    // Throws if copyItemAtPath could not read the source or would refuse it as a device, FIFO or
+    // socket.
     static void requireCopyableItemAtPath(const std::string& path);
 
     // Removes a file, a symlink (not its target) or a folder with its contents. Fails at a mount

@@ -10,12 +10,13 @@ class FileDescriptor;
 // flushes.
 class NSFileHandle {
 public:
-    // Returns nullptr if the file does not exist or cannot be opened. Unlike Foundation, opens only
-    // a regular file with one hard link and no symlink, so that a user who can write to its folder
-    // cannot redirect the output. Unlike in Foundation, every write appends (O_APPEND), so that
-    // processes do not overwrite each other's output.
+    // Returns nullptr if the file does not exist, cannot be opened, is a symlink, is not a regular
+    // file or has several hard links. Unlike in Foundation, the last three are refused, so that a
+    // user who can write to its folder cannot redirect the output, and every write appends
+    // (O_APPEND), so that processes do not overwrite each other's output.
     static std::shared_ptr<NSFileHandle> fileHandleForWritingAtPath(const std::string& path);
 
+    // For the layer: takes ownership of an open file.
     explicit NSFileHandle(FileDescriptor file);
     ~NSFileHandle();
     NSFileHandle(const NSFileHandle&) = delete;

@@ -34,8 +34,9 @@ enum NSURLResourceKey {
 
 enum NSVolumeEnumerationOptions { NSVolumeEnumerationSkipHiddenVolumes = 1 << 1 };
 
-// Access to the file system outside the bundle, mostly read-only; ConfinedFolder changes the
-// bundle. Paths are bytes. Throws an NSError if a system call fails, unless stated otherwise.
+// Reads the file system. The only changes are the working directory and new empty files;
+// ConfinedFolder changes the bundle. Paths are bytes. Throws an NSError if a system call fails,
+// unless stated otherwise.
 class NSFileManager {
 public:
     // Safe on any thread.
@@ -49,7 +50,8 @@ public:
     NSFileManager& operator=(const NSFileManager&) = delete;
 
     // Returns whether `path` exists, following symlinks; a dangling symlink does not exist. Unlike
-    // Foundation, throws on any stat error except "not found". If it exists, sets `status`, if any.
+    // Foundation, throws on any stat error except "not found": ENOENT, ENOTDIR and ELOOP, so a
+    // symlink to itself does not exist either. If `path` exists, sets `status`, if any.
     bool fileExistsAtPath(const std::string& path, FileStatus* status = nullptr) const;
 
     // Returns whether the user has permission to read `path`, following symlinks. Throws nothing.

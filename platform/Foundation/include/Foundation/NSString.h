@@ -23,5 +23,5 @@ public:
 
 // Returns the text with the identifier `key` in the user's language, or `key` if no catalogue
 // contains it. Unlike in Foundation, the table comes first. The catalogues are extracted from
-// literal arguments; other keys are marked with QT_TRANSLATE_NOOP. Safe on any thread.
+// literal arguments; other keys are marked for the extraction. Safe on any thread.
 std::string NSLocalizedString(const char* table, const char* key);
