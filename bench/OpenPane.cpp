@@ -42,6 +42,7 @@ int main(int argc, char* argv[])
     const auto controller = openMainInterface(*window);
     window->setContentViewController(controller);
     window->makeKeyAndOrderFront();
+    // Without options the controller opens the pane at once; close it before the measurement.
     awaitPane(*window);
     controller->resultPainViewHeightConstraint->setConstant(0);
     QApplication::processEvents();

@@ -14,7 +14,9 @@ from pathlib import Path
 from subprocess import DEVNULL, PIPE
 from typing import NamedTuple
 
-MEMORY = Path("/run/bench")  # on the tmpfs of the private namespace; short, for 2000 nested folders
+# On the tmpfs of the private namespace; short: the path of 2000 nested folders needs 4000 of 4095
+# bytes.
+MEMORY = Path("/run/bench")
 STEPS = ("install", "uninstall")
 LONGEST_RUN = 300  # seconds; after a failure the installer waits for the user
 MAP_NOTIFY, SUBSTRUCTURE_NOTIFY_MASK = 19, 1 << 19  # as in X11/X.h
@@ -65,7 +67,7 @@ def measure(command):
 
 class Bundle:
     """Contains, for example, "1000 files" of at most 32 KiB, "2000 nested folders", "2000 adjacent
-    folders" or one file of "2048 MiB". Except the data of the last, all is the same in each run."""
+    folders" or one file of "2048 MiB". Only the data of the large file differ between runs."""
 
     def __init__(self, folder, content, with_package=False):
         self.folder = folder

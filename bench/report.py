@@ -23,10 +23,10 @@ load at the start {os.getloadavg()[0]:.2f}
 
 The installer and its baselines run alternately, in at least {rounds} rounds.
 
-- **Ratio**: the time of the installer divided by the time of the baseline (median of the rounds).
-  Below 1 the installer is faster. A value in ms is the difference to the baseline or, without a
-  baseline, the time.
-- **Quartiles**: half of the rounds are in this range.
+- **Ratio**: the time of the installer divided by that of the baseline (median of the rounds).
+  Below 1 the installer is faster. A value in ms is the difference or, without baseline, the time.
+- **Quartiles**: half of the rounds are in this range. For “Install one of …” each value is a pair
+  of any two rounds.
 - **Result**: whether the target is met. If the target is between the quartiles, the machine is too
   noisy to judge it and the result is "unclear".
 - **Medians**: of the installer and of the baseline. The times include the start and the window, but
@@ -51,7 +51,8 @@ class Report:
                  "|---|---|--:|--:|--:|---|--:|")
 
     def add_row(self, measurement, baseline, values, medians="", unit=""):
-        """Compares the values, one for each round, with the target of the measurement."""
+        """Compares the values with the target of the measurement. Each value belongs to one round;
+        for “Install one of …” each value is a pair of any two rounds."""
         low, middle, high = statistics.quantiles(values, n=4)
         target = self.targets.get((measurement, baseline), "")
         result = ""

@@ -1,28 +1,28 @@
 # Mounts a sample disk image and ejects it with the installer.
 
-bus_answers() {
+bus_is_running() {
     dbus-send --system --print-reply --dest=org.freedesktop.DBus / \
         org.freedesktop.DBus.GetId >/dev/null 2>&1
 }
-udev_answers() {
+udev_is_running() {
     "${as_root[@]}" udevadm control --ping 2>/dev/null
 }
-disk_service_answers() {
+disk_service_is_running() {
     udisksctl status >/dev/null 2>&1
 }
 
 # Without systemd, starts the bus and udev; the bus starts the disk service.
 ensure_disk_service() {
-    ! disk_service_answers || return 0
+    ! disk_service_is_running || return 0
     "${as_root[@]}" mkdir -p /run/dbus
-    bus_answers || keep_running dbus-daemon --system --nofork --nopidfile
-    udev_answers || keep_running /usr/lib/systemd/systemd-udevd
-    await bus_answers
-    await udev_answers
-    await disk_service_answers
+    bus_is_running || keep_running dbus-daemon --system --nofork --nopidfile
+    udev_is_running || keep_running /usr/lib/systemd/systemd-udevd
+    await bus_is_running
+    await udev_is_running
+    await disk_service_is_running
 }
 
-service_knows_volume() { # device
+service_lists_volume() { # device
     udisksctl info -b "$1" | grep -q 'MountPoints: */'
 }
 
@@ -40,7 +40,7 @@ demo_detach() {
     device="$("${as_root[@]}" losetup --find --show "$image")"
     at_end "detach_by_hand '$volume' '$device' '$image'"
     "${as_root[@]}" mount -t squashfs "$device" "$volume"
-    await service_knows_volume "$device"
+    await service_lists_volume "$device"
 
     echo "Ejecting the image, which is busy for two seconds:"
     losetup --list "$device"

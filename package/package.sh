@@ -25,7 +25,8 @@ check_package() { # its share folder
     [ -z "$complaints" ] || { echo "$complaints" >&2 && return 1; }
 }
 
-# Tests a release build; `package` is the caller's. With CI=1, a skipped test is a failure.
+# Tests a release build. Uses the variable `package` of make_package. With CI=1, a
+# skipped test is a failure.
 test_release() { # program test...
     "${as_root[@]}" env CI=1 tests/support/sandbox "$PWD" -- \
         env PATH=/usr/sbin:/usr/bin:/sbin:/bin PACKAGE="${package[0]}" INSTALLER="$1" \
