@@ -175,7 +175,7 @@ struct FaultMatrix : testing::TestWithParam<Fault> {
         const std::string top = source + "quillbarn.app/";
         writeFile(top + "file", "new");
         writeFile(top + "folder/large", std::string(140'000, 'x'));
-        std::ofstream(top + "sparse").seekp(120'000) << "between holes";
+        (std::ofstream(top + "sparse") << "start").seekp(120'000) << "between holes";
         fs::resize_file(top + "sparse", 140'000);
         fs::create_symlink("file", top + "link");
         for (const char* const name : { "file", "link" })
