@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-// Detaches the disk image that contains a path, with at most seven attempts. Success means that the
-// path no longer exists. Each step that runs later has a copy of the task.
+// Detaches the disk image that contains a path in a limited number of attempts. Success means that
+// the path no longer exists. Each step that runs later has a copy of the task.
 class UnmountTask {
 public:
     // `ejectLoop` counts the attempts. Only the task writes it, first on the thread of run(), then

@@ -166,7 +166,7 @@ bool run(Task task, Fault fault)
 struct FaultMatrix : testing::TestWithParam<Fault> {
     static void SetUpTestSuite()
     {
-        constexpr uid_t someUser = 4711; // who may read and write
+        constexpr uid_t someUser = 4711; // has read and write permission
         const std::array<unsigned, 11> list { 2, 0x70001, ~0U, 0x60002, someUser, 4, ~0U, 0x60010,
             ~0U, 0x20, ~0U };
         fs::create_directory(source);
@@ -189,7 +189,7 @@ struct FaultMatrix : testing::TestWithParam<Fault> {
 
 }
 
-TEST_P(FaultMatrix, TaskEndsInOrder)
+TEST_P(FaultMatrix, TaskReportsOutcome)
 {
     int tries = 0;
     for (const auto& [task, unsupported] : scenarios)

@@ -34,8 +34,8 @@ class Detach(DetachTest):
             self.assertRaises(BlockingIOError, bus.accept)
 
 
-class Patience(DetachTest):
-    """Slow detaches. Each test has a private namespace of its own, so that all run at once."""
+class SlowDetach(DetachTest):
+    """Slow detaches, each in a ctest test of its own."""
 
     def test_busy_volume(self):
         """Another mount point of the volume is busy for more than a pause. The window is drawn meanwhile."""

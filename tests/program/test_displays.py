@@ -33,7 +33,7 @@ class Sway(Screen):
         # It refuses to start where it can become root.
         self.server = keep_running("unshare", "--user", "sway", "--config", "/tmp/sway", env=self.environment)
         await_that(lambda: self.run("swaymsg", "--type", "get_outputs"))
-        # A permanent keyboard: the first key of a new one can arrive before the window knows the keyboard.
+        # A permanent keyboard: the first key of a new one can arrive before the compositor announces the keyboard to the window.
         keep_running("wtype", "-s", "600000", env=self.environment)
 
     def places(self):

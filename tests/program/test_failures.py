@@ -1,4 +1,4 @@
-"""Failures: what the pane shows, and that nothing is changed that need not be."""
+"""Failures: the text of the pane, and the state of the installed copy."""
 
 import os
 from resource import RLIMIT_FSIZE, RLIMIT_NOFILE, RLIMIT_STACK, setrlimit
@@ -76,7 +76,7 @@ class Failure(InstallerTest):
         self.expect(f"cd {BUNDLE}; rm *; mkdir sub; mount --bind {OUTSIDE} sub", "A mount point is on the",
                     *BOTH, step=f"d remove {BUNDLE}/sub/file")
 
-    def test_symlinks_that_prevent_no_run(self):
+    def test_tolerated_symlinks(self):
         for path in NEW, BUNDLE:
             os.symlink("..file", path + "/link")  # dangling in a copy that a killed install left
         write(NEW + "/..file")
@@ -92,7 +92,7 @@ class Failure(InstallerTest):
         run("ln", "-sfn", BUNDLE + "/link", "link")
         self.assertIn("d completed", self.run_installer(*UNINSTALL))
 
-    def test_few_resources(self):
+    def test_resource_limits(self):
         self.expect_no_start(r".* could not be started. The installer has too many open files \(EMFILE\).",
                              preexec_fn=lambda: setrlimit(RLIMIT_NOFILE, (20, 20)))
         write(NEW + 200 * "/d" + "/file")

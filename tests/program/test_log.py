@@ -32,7 +32,7 @@ class Log(InstallerTest):
                 stamp = datetime.strptime(line[:19] + "+0545", "%Y/%m/%d-%H:%M:%S%z").timestamp()
                 self.assertTrue(began <= stamp <= datetime.now().timestamp(), line)
 
-    def test_obstacle_in_the_place_of_the_log(self):
+    def test_unsuitable_log_file(self):
         write(EXISTING, "kept")
         os.chown(EXISTING, 65534, 65534)
         for create, *source in (os.symlink, EXISTING), (os.link, EXISTING), (os.mkfifo,), (os.mkdir,):

@@ -9,7 +9,7 @@
 int main(int argc, char* argv[])
 {
     testing::InitGoogleTest(&argc, argv);
-    setenv("QT_QPA_PLATFORM", "offscreen", 1); // says at every step what it can't do
+    setenv("QT_QPA_PLATFORM", "offscreen", 1); // logs a warning for each unsupported operation
     setenv("QT_LOGGING_RULES", "default.warning=false", 1);
     const QApplication application(argc, argv);
     QTranslator english;

@@ -63,7 +63,7 @@ TEST_F(Tasks, ReportEveryException)
 }
 
 // Without a bus, each request to the disk service is refused.
-TEST_F(Tasks, RetryUnmountUpToSevenTimes)
+TEST_F(Tasks, RetryUnmountUpToLimit)
 {
     using Row = std::tuple<std::string, std::string, int, int, std::string>;
     for (const auto& [path, volume, pauseOfUnmount, pauses, outcome] : std::initializer_list<Row> {
