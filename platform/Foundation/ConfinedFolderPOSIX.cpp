@@ -143,9 +143,10 @@ try {
     for (const std::string& path : m_unflushed)
         flush(*m_folders->find(path), O_RDONLY, { EACCES, ELOOP });
     if (m_ignoresSyncfs && m_unflushed.empty()) {
-        // With a new file, a journaling file system also commits earlier removals.
+        // With a new file, a journaling file system also commits earlier removals. If no file can
+        // be created, this run has not changed the folder.
         const Item item { m_folders->root(), temporaryName() };
-        flush(item, O_WRONLY | O_CREAT, {});
+        flush(item, O_WRONLY | O_CREAT, { EACCES, EROFS });
     }
     check(syncfs, m_folders->root());
 } catch (const std::system_error& reason) {
