@@ -31,10 +31,9 @@ class DiskImage:
         test.addCleanup(lambda: run("losetup", "--detach", self.device(), check=False))
         test.addCleanup(run, "umount", "--lazy", "--all-targets", mount_point, check=False)
         run("sh", "-ec", KINDS[kind], cwd=folder, env=os.environ | {"place": mount_point})
-        volume = self.device() + "p1" * (kind == "partitioned")
         # The service notices devices and their state asynchronously.
-        for device, state in (self.device(), "BackingFile: +/"), (volume, "MountPoints: +/"):
-            await_that(lambda: re.search(state, run("udisksctl", "info", "-b", device, check=False)))
+        for partition, state in ("", "BackingFile: +/"), ("p1" * (kind == "partitioned"), "MountPoints: +/"):
+            await_that(lambda: re.search(state, run("udisksctl", "info", "-b", self.device() + partition, check=False)))
 
     def device(self):
         """Returns the loop device, or nothing if the image is detached."""

@@ -31,7 +31,7 @@ def await_that(condition, seconds=20, pause=0.005):
     """Returns the value of the condition as soon as it is true."""
     end = time.monotonic() + seconds
     while not (result := condition()):
-        assert time.monotonic() < end, "timeout"
+        assert time.monotonic() < end, f"timeout; log: {read_log()}"
         time.sleep(pause)
     return result
 

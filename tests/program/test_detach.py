@@ -42,6 +42,7 @@ class SlowDetach(DetachTest):
         screen = Screen()
         image = DiskImage(self)
         run("mount", "--bind", "--mkdir", image.bundle, "/Volumes/second")
+        await_that(lambda: "/Volumes/second" in run("udisksctl", "info", "-b", image.device()))
         with open("/Volumes/second/quillbarn"):
             installer = self.start("-install2", image.bundle, env=screen.environment)
             screen.await_window("Ejecting the disk image: trying again")
