@@ -13,20 +13,16 @@ const auto& modes()
         { Mode::install, "-install", "install", true,
             NSLocalizedString("Titles", "Installing quillbarn"), "",
             NSLocalizedString("Titles", "quillbarn could not be installed"),
-            [](ViewController& controller, const std::string& path) {
-                controller.installBundle(path);
-            } },
+            [](auto& controller, const auto& path) { controller.installBundle(path); } },
         { Mode::uninstall, "-uninstall", "uninstall", false,
             NSLocalizedString("Titles", "Uninstalling quillbarn"), "",
             NSLocalizedString("Titles", "quillbarn could not be uninstalled"),
-            [](ViewController& controller, const std::string&) { controller.uninstallBundle(); } },
+            [](auto& controller, const auto&) { controller.uninstallBundle(); } },
         { Mode::unmount, "-install2", "unmount", true,
             NSLocalizedString("Titles", "Ejecting the disk image"),
             NSLocalizedString("Titles", "Ejecting the disk image: trying again"),
             NSLocalizedString("Titles", "The disk image could not be ejected"),
-            [](ViewController& controller, const std::string& path) {
-                controller.unmountDiskImage(path);
-            } },
+            [](auto& controller, const auto& path) { controller.unmountDiskImage(path); } },
     } };
     return table;
 }

@@ -18,9 +18,8 @@ void replaceAll(std::string& text, const std::string& from, const std::string& t
 Logger::Logger(const std::string& path)
 {
     m_formatter.setDateFormat("yyyy/MM/dd-HH:mm:ss");
-    const NSFileManager& files = NSFileManager::defaultManager();
-    if (!files.createFileAtPath(path)) return;
-    m_file = NSFileHandle::fileHandleForWritingAtPath(path);
+    if (NSFileManager::defaultManager().createFileAtPath(path))
+        m_file = NSFileHandle::fileHandleForWritingAtPath(path);
 }
 
 void Logger::log(const std::string& message, LogLevel level)

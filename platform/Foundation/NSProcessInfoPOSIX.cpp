@@ -2,21 +2,13 @@
 
 #include <unistd.h>
 
-namespace {
+static NSProcessInfo currentProcess;
 
-NSProcessInfo& mutableInfo()
-{
-    static NSProcessInfo info;
-    return info;
-}
-
-}
-
-const NSProcessInfo& NSProcessInfo::processInfo() { return mutableInfo(); }
+const NSProcessInfo& NSProcessInfo::processInfo() { return currentProcess; }
 
 void NSProcessInfo::initialize(int argc, const char* const argv[])
 {
-    mutableInfo().m_arguments.assign(argv, argv + argc);
+    currentProcess.m_arguments.assign(argv, argv + argc);
 }
 
 int NSProcessInfo::processIdentifier() const { return getpid(); }
