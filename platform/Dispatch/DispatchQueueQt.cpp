@@ -18,6 +18,10 @@ namespace {
 // Descriptors that the toolkit and two caches of open folders require.
 constexpr std::size_t requiredDescriptors = 40;
 
+// Of each thread, in bytes. The default follows RLIMIT_STACK and may be too small for a deep tree,
+// which is listed recursively.
+constexpr std::size_t stackSize = 0x800000;
+
 // Readable while the main thread is requested to run its queue.
 int wakeUpEvent()
 {
@@ -81,6 +85,10 @@ DispatchQueue& DispatchQueue::global()
 void prepareDispatchQueues()
 try {
     mainQueue();
+    pthread_attr_t attributes;
+    pthread_getattr_default_np(&attributes);
+    pthread_attr_setstacksize(&attributes, stackSize);
+    pthread_setattr_default_np(&attributes);
     // Checks the descriptor limit by opening that many.
     std::vector<FileDescriptor> unused;
     while (unused.size() < requiredDescriptors)

@@ -95,6 +95,6 @@ class Failure(InstallerTest):
     def test_resource_limits(self):
         self.expect_no_start(r".* could not be started. The installer has too many open files \(EMFILE\).",
                              preexec_fn=lambda: setrlimit(RLIMIT_NOFILE, (20, 20)))
-        write(NEW + 200 * "/d" + "/file")
+        write(NEW + 400 * "/d" + "/file")
         for limit in (RLIMIT_NOFILE, (128, 128)), (RLIMIT_STACK, (128 << 10, 128 << 10)):
             self.assertIn("d completed", self.run_installer(*INSTALL, preexec_fn=lambda: setrlimit(*limit)))
