@@ -45,13 +45,11 @@ bool ignoresSyncfs(const FileDescriptor& folder)
     return volume.f_type == FUSE_SUPER_MAGIC && major(status.st_dev) == 0;
 }
 
-void flush(const Item& item, int flags, std::initializer_list<int> expected)
+void flush(const Item& item)
 {
-    constexpr int safely = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     const FileDescriptor file(
-        checkExcept(expected, openat, item.folder, item.name.c_str(), flags | safely, 0600));
-    if (file.isOpen() && (flags & O_CREAT)) // before fsync, so that no file remains if it fails
-        unlinkat(item.folder, item.name.c_str(), 0);
+        checkExcept({ EACCES, ELOOP }, openat, item.folder, item.name.c_str(), flags));
     if (file.isOpen()) check(fsync, file.number());
 }
 
@@ -141,14 +139,10 @@ void ConfinedFolder::synchronize()
 try {
     if (!m_folders) return;
     for (const std::string& path : m_unflushed)
-        flush(*m_folders->find(path), O_RDONLY, { EACCES, ELOOP });
-    if (m_ignoresSyncfs && m_unflushed.empty()) {
-        // With a new file, a journaling file system also commits earlier removals. If no file can
-        // be created, this run has not changed the folder.
-        const Item item { m_folders->root(), temporaryName() };
-        flush(item, O_WRONLY | O_CREAT, { EACCES, EROFS });
-    }
+        flush(*m_folders->find(path));
     check(syncfs, m_folders->root());
+    // Removals leave nothing to flush. This also flushes the file system behind FUSE.
+    if (m_ignoresSyncfs) sync();
 } catch (const std::system_error& reason) {
     throw failure(reason, { m_folder }, NSLocalizedString("Errors", "changes not written"));
 }

@@ -126,8 +126,6 @@ void runUntilKilled(Fault& fault, const std::function<void()>& work)
     waitpid(process, &status, 0);
     EXPECT_TRUE(status == 0 || status == SIGKILL);
     readCompleteFiles(true);
-    // Remains if the task was flushing a removal.
-    fs::remove(apps + ".fault_matrix-" + std::to_string(process));
     fault = { .unsupported = fault.unsupported, .hasOccurred = status == SIGKILL };
 }
 

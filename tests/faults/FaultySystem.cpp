@@ -34,6 +34,7 @@ int filterThisThread()
 // The calling thread belongs to this process: its pointers and descriptors are valid here.
 std::string pathOf(const FileCall& call, const seccomp_data& data)
 {
+    if (call.path < 0) return "";
     const auto descriptor = std::to_string(int(data.args[std::max(0, call.path - 1)]));
     std::error_code isNone; // AT_FDCWD
     fs::path path = fs::read_symlink("/proc/self/fd/" + descriptor, isNone);
@@ -73,7 +74,7 @@ std::optional<int> answer(const seccomp_data& data, Fault& fault)
             return fault.error;
         }
     }
-    if (call->name == "fsync") fault.flushed.insert(path);
+    if (call->name == "fsync" || call->name == "sync") fault.flushed.insert(path);
     const bool isNamed = call->name == "openat" && (data.args[2] & O_TMPFILE) != O_TMPFILE;
     if (isNamed || !fault.unsupported.contains(call->name)) return std::nullopt;
     if (call->name != "fstatfs") return EOPNOTSUPP;

@@ -11,7 +11,7 @@ constexpr int nothing = 0; // in place of an error: this call and all later ones
 // A system call on files, and the errors to try.
 struct FileCall {
     std::string name;
-    int path = 0; // the index of the path among the arguments; 0: a descriptor comes first
+    int path = 0; // the index among the arguments; 0: a descriptor comes first; -1: no path
     std::vector<int> errors = { EIO };
     std::vector<int> tolerated = {}; // the task succeeds; a file may lack a part of its metadata
 };
@@ -31,7 +31,7 @@ inline const std::vector<FileCall> fileCalls { { "newfstatat", 1 }, { "fstatfs" 
     { "fchown", 0, {}, { EPERM } }, { "fchownat", 1, {}, { EPERM } },
     { "utimensat", 1, { EIO, ENOMEM }, { EINVAL } },
     { "fsetxattr", 0, { EIO, ESTALE, EUCLEAN }, { EDQUOT, ENOSPC } },
-    { "fremovexattr", 0, { EIO }, { EPERM } }, { "fsync" }, { "syncfs" } };
+    { "fremovexattr", 0, { EIO }, { EPERM } }, { "fsync" }, { "syncfs" }, { "sync", -1, {} } };
 
 struct Fault {
     std::string name = {};
@@ -45,7 +45,7 @@ struct Fault {
     // The results.
     int count = 0; // of calls
     bool hasOccurred = false;
-    Names flushed = {}; // by fsync
+    Names flushed = {}; // by fsync or sync
 
     friend void PrintTo(const Fault& fault, std::ostream* stream) { *stream << fault.name; }
 };

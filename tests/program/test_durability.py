@@ -45,3 +45,5 @@ class Durability(InstallerTest):
         run("bindfs", MOUNTED, APPLICATIONS)
         self.install("new")
         self.expect_to_survive({}, *UNINSTALL)
+        run("mount", "-o", "remount,ro", MOUNTED)
+        self.assertIn("d completed", self.run_installer(*UNINSTALL))

@@ -44,7 +44,8 @@ public:
     void removeItemAtPath(const std::string& path);
 
     // Flushes all changes of the file system to the disk, those of an earlier run included, with
-    // one call. On a volume that ignores this call, flushes each item that this object has changed.
+    // one call. On a volume that ignores this call, flushes each item that this object has created,
+    // and then all file systems of the machine.
     void synchronize();
 
 private:
