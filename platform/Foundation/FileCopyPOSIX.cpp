@@ -113,9 +113,10 @@ void copyFile(const CopySource& source, const Item& to)
 void copySymlink(const CopySource& source, const Item& to)
 {
     const char* const name = to.name.c_str();
-    if (checkExcept({ EEXIST }, symlinkat, source.target.c_str(), to.folder, name) < 0
-        && readLink(to) != source.target)
-        throw errorOf(std::errc::file_exists);
+    if (checkExcept({ EEXIST, ENOSYS }, symlinkat, source.target.c_str(), to.folder, name) < 0) {
+        if (errno == ENOSYS) throw errorOf(std::errc::operation_not_supported); // FUSE
+        if (readLink(to) != source.target) throw errorOf(std::errc::file_exists);
+    }
     const struct stat& status = source.status;
     uninterrupted(
         fchownat, to.folder, name, status.st_uid, status.st_gid, AT_SYMLINK_NOFOLLOW); // may fail

@@ -98,8 +98,10 @@ std::string NSFileManager::stringByResolvingSymlinksInPath(const std::string& pa
 try {
     const Item item = *find(path);
     const FileDescriptor file(check(openat, item.folder, item.name.c_str(), O_PATH | O_CLOEXEC));
-    const auto target = readLink({ AT_FDCWD, "/proc/self/fd/" + std::to_string(file.number()) });
-    if (!target) throw errorOf(std::errc::no_such_file_or_directory);
+    const std::string link = "/proc/self/fd/" + std::to_string(file.number());
+    const auto target = readLink({ AT_FDCWD, link });
+    if (!target) // /proc is not mounted
+        throw failureToExamine(errorOf(std::errc::no_such_file_or_directory), link);
     return *target;
 } catch (const std::system_error& reason) {
     throw failureToExamine(reason, path);
