@@ -39,7 +39,7 @@ void BundleTask::install(const std::string& sourcePath)
 {
     sharedLogger().log("install bundle", Logger::LogLevel::normal);
     const auto work = [&] {
-        const Files& files = m_preflight.listSource(sourcePath);
+        const auto& files = m_preflight.listSource(sourcePath);
         removeBundle(TopFolder::exclude, nullptr);
         for (std::size_t i = 0; i < files.size(); ++i) {
             createEntry(sourcePath, files[i]);
@@ -85,8 +85,8 @@ void BundleTask::run(const std::function<void()>& work, const std::string& incom
 
 void BundleTask::removeBundle(TopFolder topFolder, const Progress& progress)
 {
-    lockApplications();
-    Files files = m_preflight.listInstalled();
+    if (!m_applications) m_applications.emplace(m_applicationDir);
+    auto files = m_preflight.listInstalled();
     if (!m_isDryRun) m_preflight.requireReplaceable(*m_applications);
     if (topFolder == TopFolder::exclude && !files.empty()) files.erase(files.begin());
     for (std::size_t k = 0; k < files.size(); ++k) {
@@ -116,11 +116,6 @@ void BundleTask::createEntry(const std::string& sourcePath, const BundleTree::Fi
         m_applications->createDirectoryAtPath(
             destination, file.path == m_bundleDir ? Intermediates::yes : Intermediates::no);
     m_copy = Copy::incomplete;
-}
-
-void BundleTask::lockApplications()
-{
-    if (!m_applications) m_applications.emplace(m_applicationDir);
 }
 
 void BundleTask::synchronize()

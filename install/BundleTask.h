@@ -36,10 +36,7 @@ public:
     void removeBundle(TopFolder topFolder, const Progress& progress);
 
 private:
-    using Files = Preflight::Files;
-
     void run(const std::function<void()>& work, const std::string& incompleteCopy);
-    void lockApplications();
     void createEntry(const std::string& sourcePath, const BundleTree::File& file);
     void synchronize();
 

@@ -37,21 +37,16 @@ Preflight::Files Preflight::list(
 const Preflight::Files& Preflight::listSource(const std::string& sourcePath)
 {
     m_sourcePath = sourcePath;
-    m_source = list(sourcePath, [this](const BundleTree::Visit& visit) { checkSource(visit); });
+    m_source = list(sourcePath, [this](const BundleTree::Visit& visit) {
+        if (visit.status.isDirectory)
+            m_sourceFolders.emplace(visit.status.identity, visit.path);
+        else if (!visit.status.isSymlink)
+            visit.fileManager.requireCopyableItemAtPath(visit.path);
+    });
     return m_source;
 }
 
-void Preflight::checkSource(const BundleTree::Visit& visit)
-{
-    const FileStatus& status = visit.status;
-    if (status.isDirectory)
-        m_sourceFolders.emplace(status.identity, visit.path);
-    else if (!status.isSymlink
-        && (status.isSpecial || !visit.fileManager.isReadableFileAtPath(visit.path)))
-        ConfinedFolder::requireCopyableItemAtPath(visit.path);
-}
-
-Preflight::Files Preflight::listInstalled() const
+Preflight::Files Preflight::listInstalled()
 {
     const NSFileManager& fileManager = NSFileManager::defaultManager();
     if (const auto target = fileManager.destinationOfSymbolicLinkAtPath(m_bundle))
@@ -62,9 +57,10 @@ Preflight::Files Preflight::listInstalled() const
         m_applicationDir, [this](const BundleTree::Visit& visit) { checkInstalled(visit); });
 }
 
-void Preflight::checkInstalled(const BundleTree::Visit& visit) const
+void Preflight::checkInstalled(const BundleTree::Visit& visit)
 {
     if (!visit.status.isDirectory) return;
+    m_installedFolders.push_back(visit.path);
     const auto same = m_sourceFolders.find(visit.status.identity);
     if (same != m_sourceFolders.end()) throw sameFolder(same->second, visit.path);
     if (!visit.status.isSymlink) return;
@@ -76,58 +72,73 @@ void Preflight::checkInstalled(const BundleTree::Visit& visit) const
             { m_bundle, visit.path, target });
 }
 
+// The source can contain a folder of the installed bundle, seen through another file system
+// (bindfs, overlay). Then a folder created in one appears in the other.
 void Preflight::requireReplaceable(ConfinedFolder& applications) const
 {
-    const NSFileManager& fileManager = NSFileManager::defaultManager();
-    if (m_source.empty() || !fileManager.fileExistsAtPath(m_bundle)) return;
-    for (const BundleTree::File& file : m_source)
-        if (file.path.rfind('/') == m_bundleDir.size()) // in the top folder
-            requireFreeName(file.path);
-
-    // The source can be the installed bundle, seen through another file system (bindfs, overlay).
-    // Then a folder created in one appears in the other.
+    if (m_source.empty() || m_installedFolders.empty()) return;
     const std::string probe = "/.quillbarn-" + std::to_string(std::random_device()());
-    applications.createDirectoryAtPath(
-        m_bundle + probe, ConfinedFolder::WithIntermediateDirectories::no);
+    std::vector<std::string> probes;
+    std::optional<NSError> failure;
     try {
+        for (const std::string& folder : m_installedFolders) {
+            applications.createTemporaryDirectoryAtPath(folder + probe);
+            probes.push_back(folder + probe);
+        }
         requireOtherFolders(probe);
-        if (fileManager.fileExistsAtPath(m_bundle + NSString::uppercaseString(probe)))
-            requireDistinctNames();
-    } catch (...) {
-        applications.removeItemAtPath(m_bundle + probe);
-        throw;
+        requireFreeNames();
+        requireDistinctNames(applications, m_bundle + probe + "/");
+    } catch (const NSError& error) {
+        failure = error;
     }
-    applications.removeItemAtPath(m_bundle + probe);
+    for (const std::string& path : probes)
+        applications.removeItemAtPath(path);
+    if (failure) throw *failure;
 }
 
 // A dangling symlink is not listed, so it stays in the top folder. It is a conflict, unless it
 // equals the symlink of the source and its target is in the bundle: then a killed install has left
 // it and the copy of its target follows.
-void Preflight::requireFreeName(const std::string& path) const
+void Preflight::requireFreeNames() const
 {
-    const std::string installed = m_applicationDir + path;
-    const NSFileManager& fileManager = NSFileManager::defaultManager();
-    const auto target = fileManager.destinationOfSymbolicLinkAtPath(installed);
-    if (target && !fileManager.fileExistsAtPath(installed)
-        && (pointsOutOfItsFolder(*target)
-            || target != fileManager.destinationOfSymbolicLinkAtPath(m_sourcePath + path)))
-        throw NSError(NSLocalizedString("Errors", "dangling symlink exists"), { installed });
+    const NSFileManager fileManager;
+    for (const BundleTree::File& file : m_source) {
+        if (file.path.rfind('/') != m_bundleDir.size()) continue; // not in the top folder
+        const std::string installed = m_applicationDir + file.path;
+        const auto target = fileManager.destinationOfSymbolicLinkAtPath(installed);
+        if (target && !fileManager.fileExistsAtPath(installed)
+            && (pointsOutOfItsFolder(*target)
+                || target != fileManager.destinationOfSymbolicLinkAtPath(m_sourcePath + file.path)))
+            throw NSError(NSLocalizedString("Errors", "dangling symlink exists"), { installed });
+    }
 }
 
 void Preflight::requireOtherFolders(const std::string& probe) const
 {
     const NSFileManager fileManager;
-    for (const auto& [identity, folder] : m_sourceFolders)
-        if (fileManager.fileExistsAtPath(folder + probe)) throw sameFolder(folder, m_bundle);
+    for (const BundleTree::File& file : m_source) {
+        const std::string folder = m_sourcePath + file.path;
+        if (file.isDirectory && fileManager.fileExistsAtPath(folder + probe))
+            throw sameFolder(folder, m_bundle);
+    }
 }
 
-void Preflight::requireDistinctNames() const
+// Tries the names that may be equal, because each file system has its own rules. `folder` is empty.
+void Preflight::requireDistinctNames(ConfinedFolder& applications, const std::string& folder) const
 {
-    std::map<std::string, std::string> paths; // by their uppercase form
+    std::map<std::string, std::vector<std::string>> similar; // paths
     for (const BundleTree::File& file : m_source) {
-        const std::string path = m_sourcePath + file.path;
-        const auto [same, isNew] = paths.emplace(NSString::uppercaseString(path), path);
-        if (!isNew)
-            throw NSError(NSLocalizedString("Errors", "names are equal"), { path, same->second });
+        const std::size_t start = file.path.rfind('/') + 1;
+        const std::string name = file.path.substr(start);
+        auto& others = similar[file.path.substr(0, start) + NSString::uppercaseString(name)];
+        for (const std::string& other : others) {
+            const std::string place = folder + other.substr(start);
+            applications.createTemporaryDirectoryAtPath(place);
+            if (NSFileManager::defaultManager().fileExistsAtPath(folder + name))
+                throw NSError(NSLocalizedString("Errors", "names are equal"),
+                    { m_sourcePath + file.path, m_sourcePath + other });
+            applications.removeItemAtPath(place);
+        }
+        others.push_back(file.path);
     }
 }

@@ -25,21 +25,20 @@ public:
     // that it is not a symlink, contains no symlink to a folder outside, and shares no folder with
     // the listed source. Limit: if both are on one file system that gives all folders the same
     // inode (some FUSE file systems), every replacement is refused.
-    Files listInstalled() const;
+    Files listInstalled();
 
-    // Requires that the listed source, if any, can replace the listed installed bundle: that it is
-    // not the same bundle in another file system, that no dangling symlink remains in the place of
-    // an entry, and that no two names are equal on a case-insensitive volume. Creates a temporary
-    // folder in the installed bundle.
+    // Requires that the listed source, if any, can replace the listed installed bundle: that they
+    // share no folder through another file system, that no dangling symlink remains in the place of
+    // an entry, and that no two names are equal on a case-insensitive volume. Creates temporary
+    // folders in the installed bundle; a check that requires them is skipped if the volume is full.
     void requireReplaceable(ConfinedFolder& applications) const;
 
 private:
     Files list(const std::string& parent, const BundleTree::Visitor& visitor) const;
-    void checkSource(const BundleTree::Visit& visit);
-    void checkInstalled(const BundleTree::Visit& visit) const;
-    void requireFreeName(const std::string& path) const;
+    void checkInstalled(const BundleTree::Visit& visit);
     void requireOtherFolders(const std::string& probe) const;
-    void requireDistinctNames() const;
+    void requireFreeNames() const;
+    void requireDistinctNames(ConfinedFolder& applications, const std::string& folder) const;
 
     const std::string m_applicationDir;
     const std::string m_bundleDir;
@@ -47,4 +46,5 @@ private:
     std::string m_sourcePath;
     Files m_source;
     std::map<FileIdentity, std::string> m_sourceFolders;
+    std::vector<std::string> m_installedFolders; // paths
 };

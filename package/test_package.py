@@ -8,8 +8,7 @@ NAME = "quillbarninstaller"
 MADE, PRIVATE = "root:sudo 2775", "root:root 700"
 # Steps, and the owner and mode of the folder afterwards if it exists.
 CASES = (
-    ("install", MADE), ("install, remove", None), ("install, install", MADE),
-    ("install, install, purge", None), ("install, remove, install, purge", None),
+    ("install", MADE), ("install, remove", None), ("install, install", MADE), ("install, remove, install, purge", None),
     ("install, fill, remove", MADE), ("install, fill, remove, install, empty, purge", None),
     ("create private, install, purge", PRIVATE), ("create alike, install, purge", MADE),
     ("install, fill, remove, create, install, purge", "root:root 755"),

@@ -89,15 +89,24 @@ try {
 void ConfinedFolder::createDirectoryAtPath(
     const std::string& path, WithIntermediateDirectories intermediates)
 try {
-    const bool acceptsExisting = intermediates == WithIntermediateDirectories::yes;
     if (!m_folders) create();
     const Item item = *m_folders->find(path);
-    struct stat status = {};
-    if (checkExcept({ EEXIST }, mkdirat, item.folder, item.name.c_str(), mode_t(0777)) < 0) {
-        check(fstatat, item.folder, item.name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
-        if (!acceptsExisting || !S_ISDIR(status.st_mode)) throw errorOf(std::errc::file_exists);
-    }
-    noteUnflushed(path);
+    const auto isFolder = [&] {
+        return openFolder(item, O_PATH, Scope::beneath, { ELOOP, ENOTDIR }).isOpen();
+    };
+    if (checkExcept({ EEXIST }, mkdirat, item.folder, item.name.c_str(), mode_t(0777)) < 0
+        && (intermediates == WithIntermediateDirectories::no || !isFolder()))
+        throw errorOf(std::errc::file_exists);
+    if (m_ignoresSyncfs) m_unflushed.push_back(path);
+} catch (const std::system_error& reason) {
+    throw failureToChange(reason, { path }, NSLocalizedString("Errors", "folder not created"));
+}
+
+void ConfinedFolder::createTemporaryDirectoryAtPath(const std::string& path)
+try {
+    const auto item = m_folders->find(path, { ELOOP, ENOENT });
+    if (item)
+        checkExcept({ EDQUOT, ENOSPC }, mkdirat, item->folder, item->name.c_str(), mode_t(0700));
 } catch (const std::system_error& reason) {
     throw failureToChange(reason, { path }, NSLocalizedString("Errors", "folder not created"));
 }
@@ -107,22 +116,11 @@ void ConfinedFolder::copyItemAtPath(const std::string& path, const std::string& 
     const CopySource source(*m_sourceFolders, path);
     try {
         copyItem(source, *m_folders->find(toPath));
-        noteUnflushed(toPath);
+        if (m_ignoresSyncfs) m_unflushed.push_back(toPath);
     } catch (const std::system_error& reason) {
         throw failureToChange(
             reason, { path, toPath }, NSLocalizedString("Errors", "item not copied"));
     }
-}
-
-void ConfinedFolder::noteUnflushed(const std::string& path)
-{
-    if (m_ignoresSyncfs) m_unflushed.push_back(path);
-}
-
-void ConfinedFolder::requireCopyableItemAtPath(const std::string& path)
-{
-    OpenFolders folders;
-    const CopySource source(folders, path);
 }
 
 void ConfinedFolder::removeItemAtPath(const std::string& path)

@@ -1,7 +1,7 @@
 #include <Foundation/NSFileManager.h>
 
 #include "ErrorText.h"
-#include "OpenFolders.h"
+#include "FileCopy.h"
 
 #include <fcntl.h>
 #include <filesystem>
@@ -60,20 +60,20 @@ try {
     if (!item || !examine(AT_SYMLINK_NOFOLLOW)) return false;
     const bool isSymlink = S_ISLNK(found.st_mode);
     if (isSymlink && !examine(0)) return false;
-    if (status)
-        *status = { S_ISDIR(found.st_mode), !S_ISDIR(found.st_mode) && !S_ISREG(found.st_mode),
-            isSymlink, { found.st_dev, found.st_ino } };
+    if (status) *status = { S_ISDIR(found.st_mode), isSymlink, { found.st_dev, found.st_ino } };
     return true;
 } catch (const std::system_error& reason) {
     throw failureToExamine(reason, path);
 }
 
 bool NSFileManager::isReadableFileAtPath(const std::string& path) const
-try {
-    const std::optional<Item> item = find(path);
-    return faccessat(item->folder, item->name.c_str(), R_OK, 0) == 0;
-} catch (const std::system_error&) {
-    return false;
+{
+    return faccessat(AT_FDCWD, path.c_str(), R_OK, 0) == 0;
+}
+
+void NSFileManager::requireCopyableItemAtPath(const std::string& path) const
+{
+    const CopySource source(*m_folders, path);
 }
 
 std::vector<std::string> NSFileManager::contentsOfDirectoryAtPath(const std::string& path) const

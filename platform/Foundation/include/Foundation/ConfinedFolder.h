@@ -27,6 +27,10 @@ public:
     enum class WithIntermediateDirectories { no, yes };
     void createDirectoryAtPath(const std::string& path, WithIntermediateDirectories intermediates);
 
+    // Creates an empty folder for a check, to be removed before synchronize(). Creates nothing if
+    // the volume is full, or if a folder on the path is missing or a symlink.
+    void createTemporaryDirectoryAtPath(const std::string& path);
+
     // Copies a file with mode (without set-ID bits), owner and group (both or neither), xattrs
     // (without capabilities), ACL and times, or a symlink as a symlink. Metadata that the volume or
     // the user's permissions cannot keep is omitted. The copy is complete or absent, also after
@@ -34,10 +38,6 @@ public:
     // item is an error, except a symlink with the same target. Unlike Foundation, refuses folders,
     // devices, FIFOs and sockets. `path` may be anywhere.
     void copyItemAtPath(const std::string& path, const std::string& toPath);
-
-    // Throws if copyItemAtPath could not read the source or would refuse it as a device, FIFO or
-    // socket.
-    static void requireCopyableItemAtPath(const std::string& path);
 
     // Removes a file, a symlink (not its target) or a folder with its contents. Fails at a mount
     // point. Unlike in Foundation, a missing item, or one behind a symlink, is a success.
@@ -51,7 +51,6 @@ public:
 private:
     void open();
     void create();
-    void noteUnflushed(const std::string& path);
 
     const std::string m_folder;
     const std::unique_ptr<OpenFolders> m_sourceFolders;

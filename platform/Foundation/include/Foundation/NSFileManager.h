@@ -19,7 +19,6 @@ using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
 struct FileStatus {
     bool isDirectory = false;
-    bool isSpecial = false; // a device, a FIFO or a socket
     bool isSymlink = false; // and the other members describe its target
     FileIdentity identity;
 };
@@ -56,6 +55,11 @@ public:
 
     // Returns whether the user has permission to read `path`, following symlinks. Throws nothing.
     bool isReadableFileAtPath(const std::string& path) const;
+
+    // Not in Foundation: throws if ConfinedFolder::copyItemAtPath could not open the file or would
+    // refuse it as a device, FIFO or socket. Opens the file, because some FUSE file systems refuse
+    // that although they grant read permission. Requires a separate manager.
+    void requireCopyableItemAtPath(const std::string& path) const;
 
     // Returns the names in a folder, hidden ones included, in the order of the file system.
     std::vector<std::string> contentsOfDirectoryAtPath(const std::string& path) const;
