@@ -24,7 +24,8 @@ public:
     // presses the button.
     virtual void enableKeyEquivalentForDefaultButton() = 0;
 
-    // Shows the window. Returns when the first frame is drawn, or after one second.
+    // Shows the window. Returns when the first frame is drawn and the position of the window is
+    // known, or after one second.
     virtual void makeKeyAndOrderFront() = 0;
 
     // Brings the window to the front and requests the keyboard focus, which the desktop may refuse.
