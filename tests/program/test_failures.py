@@ -12,7 +12,7 @@ IS_SYMLINK = f"The application “{BUNDLE}” could not be changed. The applicat
 SPECIAL = f"“{NEW}/other” could not be copied. The source is a device, a pipe or a socket."
 DANGLING = "“{}” could not be installed. A dangling symlink with the same name already exists."
 FILE = "quillbarn.app/Contents/file"
-FULL = f"rm -r {BUNDLE}*; mount -t tmpfs -o nr_inodes=4 none {APPLICATIONS}; mkdir -p {BUNDLE}/1/2"
+FULL = f"rm -r {BUNDLE}*; mount -t tmpfs -o nr_inodes=6 none {APPLICATIONS}; mkdir -p {BUNDLE}/1/2/3; ln -s 1 {BUNDLE}/4"
 EXFAT = (f"truncate -s 8M /tmp/exfat; mkfs.exfat /tmp/exfat; disk=$(losetup -f --show /tmp/exfat); "
          f"trap 'losetup -d $disk' EXIT; rm -r {BUNDLE}*; mount.exfat-fuse $disk {APPLICATIONS}; mkdir -p {BUNDLE}/left; ")
 # Commands in the new bundle, the failure that they cause before the first change, and the runs.
@@ -77,7 +77,7 @@ class Failure(InstallerTest):
 
     def test_tolerated_volumes(self):
         """A full volume, and names that the volume distinguishes although they are equal in uppercase."""
-        for commands in FULL, EXFAT + "touch straße STRASSE":
+        for commands in FULL + "; touch a A", EXFAT + "touch straße STRASSE":
             self.setUp()
             run("sh", "-ec", commands, cwd=NEW)
             self.assertIn("d completed", self.run_installer(*INSTALL))
