@@ -22,9 +22,7 @@ namespace {
 void openStandardDescriptors()
 {
     int lowest = 0;
-    do
-        lowest = open("/dev/null", O_RDWR);
-    while (lowest >= 0 && lowest <= STDERR_FILENO);
+    while ((lowest = open("/dev/null", O_RDWR)) >= 0 && lowest <= STDERR_FILENO) {}
     close(lowest);
 }
 
