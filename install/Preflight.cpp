@@ -41,7 +41,7 @@ const Preflight::Files& Preflight::listSource(const std::string& sourcePath)
         if (visit.status.isDirectory)
             m_sourceFolders.emplace(visit.status.identity, visit.path);
         else if (!visit.status.isSymlink)
-            visit.fileManager.requireCopyableItemAtPath(visit.path);
+            visit.fileManager.requireCopyableItemAtPath(visit.path, visit.status);
     });
     return m_source;
 }

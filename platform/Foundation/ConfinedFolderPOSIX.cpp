@@ -7,20 +7,12 @@
 #include <cassert>
 #include <fcntl.h>
 #include <filesystem>
-#include <linux/magic.h>
 #include <sys/file.h>
 #include <sys/sysmacros.h>
-#include <sys/vfs.h>
 
 namespace {
 
 using Scope = OpenFolders::Scope;
-
-// Returns false if another process holds the lock. Succeeds on a file system without locks.
-bool tryLock(const FileDescriptor& folder)
-{
-    return uninterrupted(flock, folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
-}
 
 void removeTree(const Item& item)
 {
@@ -38,11 +30,9 @@ void removeTree(const Item& item)
 // Without a block device, FUSE does not pass syncfs on to the file system behind it.
 bool ignoresSyncfs(const FileDescriptor& folder)
 {
-    struct statfs volume = {};
     struct stat status = {};
-    check(fstatfs, folder.number(), &volume);
     check(fstat, folder.number(), &status);
-    return volume.f_type == FUSE_SUPER_MAGIC && major(status.st_dev) == 0;
+    return isOnFuse(folder.number()) && major(status.st_dev) == 0;
 }
 
 void flush(const Item& item)
@@ -69,7 +59,8 @@ try {
     FileDescriptor folder
         = openFolder({ AT_FDCWD, m_folder }, O_RDONLY, Scope::anywhere, { ENOENT });
     if (!folder.isOpen()) return;
-    if (!tryLock(folder))
+    // Any other error means that the file system has no locks.
+    if (uninterrupted(flock, folder.number(), LOCK_EX | LOCK_NB) < 0 && errno == EWOULDBLOCK)
         throw NSError(NSLocalizedString("Errors", "folder is locked"), { m_folder });
     m_ignoresSyncfs = ignoresSyncfs(folder);
     m_folders = std::make_unique<OpenFolders>(std::move(folder), m_folder, Scope::beneath);

@@ -82,10 +82,7 @@ void copyData(const FileDescriptor& from, const struct stat& status, const FileD
 void copyFileData(const FileDescriptor& from, const struct stat& status, const FileDescriptor& to)
 {
     copyData(from, status, to);
-    struct stat source = {};
-    struct stat copy = {};
-    check(fstat, from.number(), &source);
-    check(fstat, to.number(), &copy);
-    if ((status.st_size | source.st_size) != 0 && source.st_size != copy.st_size)
-        throw errorOf(std::errc::no_message_available);
+    struct stat after = {};
+    check(fstat, from.number(), &after);
+    if (after.st_size != status.st_size) throw errorOf(std::errc::no_message_available);
 }

@@ -60,7 +60,9 @@ try {
     if (!item || !examine(AT_SYMLINK_NOFOLLOW)) return false;
     const bool isSymlink = S_ISLNK(found.st_mode);
     if (isSymlink && !examine(0)) return false;
-    if (status) *status = { S_ISDIR(found.st_mode), isSymlink, { found.st_dev, found.st_ino } };
+    const bool isFolder = S_ISDIR(found.st_mode);
+    const bool isSpecial = !isFolder && !S_ISREG(found.st_mode);
+    if (status) *status = { isFolder, isSpecial, isSymlink, { found.st_dev, found.st_ino } };
     return true;
 } catch (const std::system_error& reason) {
     throw failureToExamine(reason, path);
@@ -71,9 +73,15 @@ bool NSFileManager::isReadableFileAtPath(const std::string& path) const
     return faccessat(AT_FDCWD, path.c_str(), R_OK, 0) == 0;
 }
 
-void NSFileManager::requireCopyableItemAtPath(const std::string& path) const
-{
-    const CopySource source(*m_folders, path);
+void NSFileManager::requireCopyableItemAtPath(
+    const std::string& path, const FileStatus& status) const
+try {
+    const Item item = *m_folders->find(path);
+    if (!m_isOnFuse) m_isOnFuse = isOnFuse(item.folder);
+    if (*m_isOnFuse || status.isSpecial || faccessat(item.folder, item.name.c_str(), R_OK, 0) < 0)
+        const CopySource source(*m_folders, path);
+} catch (const std::system_error& reason) {
+    throw failure(reason, { path }, NSLocalizedString("Errors", "item not read"));
 }
 
 std::vector<std::string> NSFileManager::contentsOfDirectoryAtPath(const std::string& path) const

@@ -55,5 +55,8 @@ FileDescriptor openFolder(const Item& folder, std::uint64_t flags, OpenFolders::
 // Returns the names in a folder, without "." and "..", in the order of the file system.
 std::vector<std::string> namesIn(const Item& folder);
 
+// Returns whether an open folder is on a FUSE file system.
+bool isOnFuse(int folder);
+
 // Returns the target of a symlink, unchanged; nothing if `item` is not a symlink or does not exist.
 std::optional<std::string> readLink(const Item& item);

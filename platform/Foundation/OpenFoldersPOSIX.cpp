@@ -4,9 +4,11 @@
 #include <climits>
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <linux/openat2.h>
 #include <memory>
 #include <sys/syscall.h>
+#include <sys/vfs.h>
 
 namespace {
 
@@ -84,6 +86,13 @@ std::vector<std::string> namesIn(const Item& folder)
     }
     std::erase_if(names, [](const std::string& name) { return name == "." || name == ".."; });
     return names;
+}
+
+bool isOnFuse(int folder)
+{
+    struct statfs volume = {};
+    check(fstatfs, folder, &volume);
+    return volume.f_type == FUSE_SUPER_MAGIC;
 }
 
 std::optional<std::string> readLink(const Item& item)

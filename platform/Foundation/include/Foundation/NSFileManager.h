@@ -19,6 +19,7 @@ using FileIdentity = std::pair<std::uint64_t, std::uint64_t>;
 
 struct FileStatus {
     bool isDirectory = false;
+    bool isSpecial = false; // a device, a FIFO or a socket
     bool isSymlink = false; // and the other members describe its target
     FileIdentity identity;
 };
@@ -57,9 +58,10 @@ public:
     bool isReadableFileAtPath(const std::string& path) const;
 
     // Not in Foundation: throws if ConfinedFolder::copyItemAtPath could not open the file or would
-    // refuse it as a device, FIFO or socket. Opens the file, because some FUSE file systems refuse
-    // that although they grant read permission. Requires a separate manager.
-    void requireCopyableItemAtPath(const std::string& path) const;
+    // refuse it as a device, FIFO or socket. Examines its permissions, and if the first such file
+    // is on FUSE, opens all, because some FUSE file systems refuse that in spite of the
+    // permissions. Requires a separate manager.
+    void requireCopyableItemAtPath(const std::string& path, const FileStatus& status) const;
 
     // Returns the names in a folder, hidden ones included, in the order of the file system.
     std::vector<std::string> contentsOfDirectoryAtPath(const std::string& path) const;
@@ -91,4 +93,5 @@ private:
         const std::string& path, std::initializer_list<int> expected = {}) const;
 
     const std::unique_ptr<OpenFolders> m_folders; // nullptr: no cache
+    mutable std::optional<bool> m_isOnFuse;
 };
