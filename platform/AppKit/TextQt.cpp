@@ -4,25 +4,30 @@
 #include <QResizeEvent>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-// Shows characters of a file name that could forge lines or reorder the text of a message. LRI and
-// PDI remain: some catalogues isolate names with them.
+// Characters of a file name that could forge lines or reorder the text of a message. LRI and PDI
+// are not among them: some catalogues isolate names with them.
+bool isUnsafe(QChar character)
+{
+    const uint code = character.unicode();
+    return (code < 0x20 && code != '\n') || (code >= 0x7F && code < 0xA0)
+        || (code >= 0x2028 && code <= 0x202E) || code == 0x2067 || code == 0x2068;
+}
+
 QString escaped(const QString& text)
 {
     QString result;
-    for (const QChar character : text) {
-        const uint code = character.unicode();
-        const bool isUnsafe
-            = (code >= 0x2028 && code <= 0x202E) || code == 0x2067 || code == 0x2068;
-        if (isUnsafe || (character.category() == QChar::Other_Control && code != '\n'))
-            result += QStringLiteral("\\u%1").arg(code, 4, 16, QLatin1Char('0'));
-        else
-            result += character;
+    for (const QChar* start = text.begin();;) {
+        const QChar* const unsafe = std::find_if(start, text.end(), isUnsafe);
+        result.append(start, unsafe - start);
+        if (unsafe == text.end()) return result;
+        result += QStringLiteral("\\u%1").arg(unsafe->unicode(), 4, 16, QLatin1Char('0'));
+        start = unsafe + 1;
     }
-    return result;
 }
 
 }
