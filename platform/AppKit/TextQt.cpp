@@ -18,13 +18,14 @@ bool isUnsafe(QChar character)
         || (code >= 0x2028 && code <= 0x202E) || code == 0x2067 || code == 0x2068;
 }
 
-QString escaped(const QString& text)
+std::string escaped(std::string_view bytes)
 {
+    const QString text = QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
     QString result;
     for (const QChar* start = text.begin();;) {
         const QChar* const unsafe = std::find_if(start, text.end(), isUnsafe);
         result.append(start, unsafe - start);
-        if (unsafe == text.end()) return result;
+        if (unsafe == text.end()) return result.toStdString();
         result += QStringLiteral("\\u%1").arg(unsafe->unicode(), 4, 16, QLatin1Char('0'));
         start = unsafe + 1;
     }
@@ -53,7 +54,7 @@ void TextQt::setStringValue(std::string_view text)
 
 void TextQt::appendString(std::string_view text)
 {
-    m_unpublished += text;
+    m_unpublished += escaped(text);
     if (isVisible()) publish();
 }
 
@@ -63,7 +64,7 @@ void TextQt::publish()
     const std::size_t end = m_unpublished.size() - (m_unpublished.ends_with('\n') ? 1 : 0);
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
-    cursor.insertText(escaped(QString::fromUtf8(m_unpublished.data(), qsizetype(end))));
+    cursor.insertText(QString::fromUtf8(m_unpublished.data(), qsizetype(end)));
     m_unpublished.erase(0, end);
 }
 
