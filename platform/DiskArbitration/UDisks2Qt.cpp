@@ -13,6 +13,11 @@ constexpr int noTimeout = std::numeric_limits<int>::max();
 
 using Interfaces = QMap<QString, QVariantMap>; // properties by interface
 
+QString busAddress()
+{
+    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket");
+}
+
 QString fullName(const char* interface) { return QString(service) + '.' + interface; }
 
 bool isSuccess(const QDBusMessage& reply, const char* signature)
@@ -38,9 +43,7 @@ Value read(const Interfaces& object, const char* interface, const char* name, co
 // until the bus has authenticated the client and replied to "Hello". connectToPeer() authenticates
 // asynchronously.
 UDisks2::UDisks2()
-    : m_bus(QDBusConnection::connectToPeer(
-        qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket"),
-        QString::number(quintptr(this), 16)))
+    : m_bus(QDBusConnection::connectToPeer(busAddress(), QString::number(quintptr(this), 16)))
 {
     const char* const bus = "org.freedesktop.DBus";
     m_bus.call(QDBusMessage::createMethodCall(bus, "/org/freedesktop/DBus", bus, "Hello"));

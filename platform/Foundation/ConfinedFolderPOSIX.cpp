@@ -82,11 +82,9 @@ void ConfinedFolder::createDirectoryAtPath(
 try {
     if (!m_folders) create();
     const Item item = *m_folders->find(path);
-    const auto isFolder = [&] {
-        return openFolder(item, O_PATH, Scope::beneath, { ELOOP, ENOTDIR }).isOpen();
-    };
     if (checkExcept({ EEXIST }, mkdirat, item.folder, item.name.c_str(), mode_t(0777)) < 0
-        && (intermediates == WithIntermediateDirectories::no || !isFolder()))
+        && (intermediates == WithIntermediateDirectories::no
+            || !openFolder(item, O_PATH, Scope::beneath, { ELOOP, ENOTDIR }).isOpen()))
         throw errorOf(std::errc::file_exists);
     if (m_ignoresSyncfs) m_unflushed.push_back(path);
 } catch (const std::system_error& reason) {
