@@ -137,8 +137,10 @@ TEST_F(Pane, ShowsReportBeforeCallReturns)
     EXPECT_EQ(help(), title());
     WindowReport report(controller, Mode::install);
     runInBackground([&] {
+        // NOLINTBEGIN(misc-misleading-bidirectional)
         report.showMessage("two\nlines, not \xFF UTF-8, \u202E\u2068");
         EXPECT_TRUE(readFile(logFile).ends_with(" d two\\nlines, not \xFF UTF-8, \u202E\u2068\n"));
+        // NOLINTEND(misc-misleading-bidirectional)
         EXPECT_EQ(
             text.toPlainText(), "invalid options\ntwo\\nlines, not \uFFFD UTF-8, \\u202e\\u2068");
         report.setProgress(1, 4);

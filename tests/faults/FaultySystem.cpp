@@ -19,7 +19,7 @@ namespace {
 int filterThisThread()
 {
     seccomp_reset(nullptr, 0); // closes the descriptor of the previous run
-    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_NOTIFY);
+    void* const filter = seccomp_init(SCMP_ACT_NOTIFY);
     // fcntl and, from glibc 2.39, fstat only use open descriptors.
     for (const char* const name :
         { "brk", "clock_gettime", "exit", "fcntl", "fstat", "futex", "getpid", "getrandom",

@@ -10,8 +10,8 @@
 
 TEST(MainQueue, PreservesOrderOfEachThread)
 {
-    int running = 8;
-    std::vector<int> counts(running);
+    std::vector<int> counts(8);
+    std::size_t running = counts.size();
     for (int& count : counts)
         DispatchQueue::global().async([&] {
             EXPECT_FALSE(NSThread::isMainThread());
