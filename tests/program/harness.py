@@ -27,6 +27,9 @@ def traced(calls, *options):
     return [*"strace -f --seccomp-bpf --output=/tmp/trace --trace".split(), calls, *options, INSTALLER]
 
 
+SLOWLY = traced("linkat", "--inject=linkat:delay_enter=5000")  # so that a test can observe the progress
+
+
 def await_that(condition, seconds=20, pause=0.005):
     """Returns the value of the condition as soon as it is true."""
     end = time.monotonic() + seconds

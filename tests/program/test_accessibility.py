@@ -52,8 +52,7 @@ class Accessibility(InstallerTest):
 
         write_files(600)
         run("mount", "-t", "tmpfs", "-o", "size=3m", "none", APPLICATIONS)
-        slowly = traced("linkat", "--inject=linkat:delay_enter=2000")  # so that the progress can be observed
-        installer = self.start(*INSTALL, command=slowly, env=os.environ)
+        installer = self.start(*INSTALL, command=SLOWLY, env=os.environ)
         await_event(VALUE, 0, "progress bar")
         progress = describe(events[0][2])[2]
         await_event(FOCUS, True, "button")  # when the pane is open

@@ -78,10 +78,10 @@ class Displays(InstallerTest):
                                  command=[*command, INSTALLER])
 
     def test_window_stays_when_pane_opens(self):
-        write_files(6000)
-        run("mount", "-t", "tmpfs", "-o", "size=40m", "none", APPLICATIONS)
+        write_files(600)
+        run("mount", "-t", "tmpfs", "-o", "size=3m", "none", APPLICATIONS)
         screen = Screen()
-        installer = self.start(*INSTALL, env=screen.environment)
+        installer = self.start(*INSTALL, command=SLOWLY, env=screen.environment)
         screen.await_window()
         framed = screen.places()
         screen.press("F2")  # removes the frame, so that cached margins are wrong
