@@ -3,6 +3,7 @@
 #include <Foundation/NSError.h>
 #include <Foundation/NSString.h>
 
+#include <exception>
 #include <filesystem>
 #include <random>
 
@@ -77,23 +78,23 @@ void Preflight::checkInstalled(const BundleTree::Visit& visit)
 void Preflight::requireReplaceable(ConfinedFolder& applications) const
 {
     if (m_source.empty() || m_installedFolders.empty()) return;
+    requireFreeNames();
     const std::string probe = "/.quillbarn-" + std::to_string(std::random_device()());
     std::vector<std::string> probes;
-    std::optional<NSError> failure;
+    std::exception_ptr failure;
     try {
         for (const std::string& folder : m_installedFolders) {
             applications.createTemporaryDirectoryAtPath(folder + probe);
             probes.push_back(folder + probe);
         }
         requireOtherFolders(probe);
-        requireFreeNames();
         requireDistinctNames(applications, m_bundle + probe + "/");
-    } catch (const NSError& error) {
-        failure = error;
+    } catch (...) {
+        failure = std::current_exception();
     }
     for (const std::string& path : probes)
         applications.removeItemAtPath(path);
-    if (failure) throw *failure;
+    if (failure) std::rethrow_exception(failure);
 }
 
 // A dangling symlink is not listed, so it stays in the top folder. It is a conflict, unless it

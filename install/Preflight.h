@@ -36,8 +36,8 @@ public:
 private:
     Files list(const std::string& parent, const BundleTree::Visitor& visitor) const;
     void checkInstalled(const BundleTree::Visit& visit);
-    void requireOtherFolders(const std::string& probe) const;
     void requireFreeNames() const;
+    void requireOtherFolders(const std::string& probe) const;
     void requireDistinctNames(ConfinedFolder& applications, const std::string& folder) const;
 
     const std::string m_applicationDir;
