@@ -18,9 +18,6 @@ struct CopySource {
 
 // All following functions throw a std::system_error.
 
-// Returns a hidden name that no other process uses while this one holds the lock.
-std::string temporaryName();
-
 // See ConfinedFolder::copyItemAtPath.
 void copyItem(const CopySource& source, const Item& to);
 

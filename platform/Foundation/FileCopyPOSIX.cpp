@@ -8,6 +8,12 @@
 
 namespace {
 
+// Returns a hidden name that no other process uses while this one holds the lock.
+std::string temporaryName()
+{
+    return std::string(".") + program_invocation_short_name + "-" + std::to_string(getpid());
+}
+
 // A new file that appears under its name when it is complete. Until then it is an unnamed temporary
 // file (O_TMPFILE), which does not outlive the process, or has a hidden name if the file system
 // does not support that.
@@ -141,11 +147,6 @@ try {
         throw NSError(NSLocalizedString("Errors", "item is special"), { path });
 } catch (const std::system_error& reason) {
     throw failure(reason, { path }, NSLocalizedString("Errors", "item not read"));
-}
-
-std::string temporaryName()
-{
-    return std::string(".") + program_invocation_short_name + "-" + std::to_string(getpid());
 }
 
 void copyItem(const CopySource& source, const Item& to)
