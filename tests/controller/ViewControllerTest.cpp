@@ -124,7 +124,7 @@ TEST(ViewController, ListsAndRemovesContentOfBundle)
     std::filesystem::remove_all("/Applications/quillbarn.app");
     writeFile("/Applications/quillbarn.app/folder/file");
     const auto files = ViewController::getFiles("/Applications/quillbarn.app/", "x/");
-    EXPECT_EQ(files.at(1).path, "x/folder/file");
+    EXPECT_TRUE(files.size() == 2 && files[0].isDirectory && files[1].path == "x/folder/file");
     const TestWindow window;
     runInBackground([&] { window.controller->removeBundle(TopFolder::exclude, nullptr); });
     EXPECT_TRUE(std::filesystem::is_empty("/Applications/quillbarn.app"));
