@@ -172,9 +172,8 @@ class Screen:
             <focus><focusNew>no</focusNew></focus><applications>
             <application title='Uninstalling*'><iconic>yes</iconic></application></applications>
             <keyboard><keybind key='F2'><action name='ToggleDecorations'/></keybind></keyboard></openbox_config>""")
-        restarted = "while sleep 0.1; do openbox --config-file /tmp/openbox; done"  # it may exit on its own
-        keep_running("sh", "-c", restarted, env=self.environment)
-        await_that(lambda: self.run("xdotool", "get_num_desktops"))
+        keep_running("openbox", "--config-file", "/tmp/openbox", env=self.environment)
+        await_that(lambda: self.run("xdotool", "get_num_desktops") != "0")  # without a window manager it prints 0
 
     def run(self, *command):
         """Returns the output of a program that uses the screen; nothing if it fails."""
@@ -188,7 +187,7 @@ class Screen:
         for window in find() if at_once else await_that(find):
             # The window manager may refuse the request.
             await_that(lambda: self.run("xdotool", "getactivewindow") == window
-                       or not self.run("xdotool", "windowactivate", window, "getwindowname", window))
+                       or self.run("xdotool", "windowactivate", window) or window not in find())
 
     def places(self):
         """Returns the position of the active window, if there is one."""
