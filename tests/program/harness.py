@@ -81,9 +81,12 @@ def write(path, content=""):
     Path(path).write_bytes(os.fsencode(content))
 
 
-def write_files(count):
+def write_files(count, room=None):
+    """Writes a bundle, and limits the room in the applications folder."""
     for number in range(count):
         write(f"{NEW}/{number}", "x" * 5000)
+    if room:
+        run("mount", "-t", "tmpfs", "-o", f"size={room}", "none", APPLICATIONS)
 
 
 def read(path):

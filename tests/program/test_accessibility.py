@@ -46,15 +46,13 @@ class Accessibility(InstallerTest):
                 while GLib.MainContext.default().iteration(False):
                     pass
                 screen.press("Shift_L")  # has no effect, but gives the window the keyboard focus
-                return any(("object:" + kind, detail, role) == (*e[:2], describe(e[2])[0]) for e in events)
+                return [e[2] for e in events if ("object:" + kind, detail, role) == (*e[:2], describe(e[2])[0])]
 
-            await_that(is_received)
+            return await_that(is_received)[0]
 
-        write_files(600)
-        run("mount", "-t", "tmpfs", "-o", "size=3m", "none", APPLICATIONS)
+        write_files(600, room="3m")
         installer = self.start(*INSTALL, command=SLOWLY, env=os.environ)
-        await_event(VALUE, 0, "progress bar")
-        progress = describe(events[0][2])[2]
+        progress = describe(await_event(VALUE, 0, "progress bar"))[2]
         await_event(FOCUS, True, "button")  # when the pane is open
         screen.await_window(FAILURE)
         *messages, error = [entry[2:] for entry in read_log()[3:]]
@@ -71,3 +69,6 @@ class Accessibility(InstallerTest):
             screen.press(key)
             await_event(*event, "text")
         self.press_until_closed(screen, installer)
+        events.clear()
+        self.start(env=os.environ | {"LANGUAGE": "ar"})  # from right to left
+        self.assertLess(await_event(FOCUS, True, "button").get_position(Atspi.CoordType.WINDOW).x, 100)

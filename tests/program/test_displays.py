@@ -48,8 +48,7 @@ class Sway(Screen):
 
 class Displays(InstallerTest):
     def test_complete_window_on_wayland(self):
-        write_files(600)
-        run("mount", "-t", "tmpfs", "-o", "size=1m", "none", APPLICATIONS)
+        write_files(600, room="1m")
         screen = Sway()
         installer = self.start(*INSTALL, env=screen.environment)
 
@@ -78,8 +77,7 @@ class Displays(InstallerTest):
                                  command=[*command, INSTALLER])
 
     def test_window_stays_when_pane_opens(self):
-        write_files(600)
-        run("mount", "-t", "tmpfs", "-o", "size=3m", "none", APPLICATIONS)
+        write_files(600, room="3m")
         screen = Screen()
         installer = self.start(*INSTALL, command=SLOWLY, env=screen.environment)
         screen.await_window()

@@ -36,6 +36,7 @@ TEST_F(Tasks, ReportEachStepInOrder)
     report->note = [] { return " " + std::to_string(readTree(apps).size()); }; // entries
     std::thread([&] {
         BundleTask(*report, apps, "b", DryRun::no).install("/tmp/source/");
+        BundleTask(*report, apps, "b", DryRun::yes).install("/tmp/source/");
         BundleTask(*report, apps, "b", DryRun::no).uninstall();
     }).join();
     std::string steps;
@@ -43,7 +44,9 @@ TEST_F(Tasks, ReportEachStepInOrder)
         steps += line.substr(line.find(' ')) + ",";
     EXPECT_EQ(steps,
         " “remove /tmp/apps/b/x” 2, “mkdir /tmp/apps/b” 1, 0 of 2 1, “ copy /tmp/apps/b/x” 1,"
-        " 1 of 2 2, pause 1 2, “completed” 2, end 2, “remove /tmp/apps/b/x” 2, 0 of 2 1,"
+        " 1 of 2 2, pause 1 2, “completed” 2, end 2, “remove /tmp/apps/b/x” 2,"
+        " “mkdir /tmp/apps/b” 2, 0 of 2 2, “ copy /tmp/apps/b/x” 2, pause 0.1 2, 1 of 2 2,"
+        " pause 1 2, “completed” 2, end 2, “remove /tmp/apps/b/x” 2, 0 of 2 1,"
         " “remove /tmp/apps/b/” 1, 1 of 2 0, pause 1 0, “completed” 0, end 0,");
 }
 
