@@ -106,10 +106,10 @@ TEST(ViewController, DryRunChangesNothing)
     EXPECT_NE(readFile(logFile).find("d unmount /Volumes/quillbarn installer/"), std::string::npos);
     window.button.setEnabled(false);
     runInBackground([&] { window.controller->uninstallBundle(); });
-    EXPECT_TRUE(runMainLoopUntil([&] { return window.button.isEnabled(); }));
+    const auto isCompleted = [] { return readFile(logFile).ends_with(" d completed\n"); };
+    EXPECT_TRUE(runMainLoopUntil([&] { return window.button.isEnabled(); }) && isCompleted());
     runInBackground([&] { window.controller->installBundle("/tmp/source/"); });
-    EXPECT_TRUE(runMainLoopUntil(window.isEnded));
-    EXPECT_TRUE(readFile(logFile).ends_with(" d completed\n"));
+    EXPECT_TRUE(runMainLoopUntil(window.isEnded) && isCompleted());
     EXPECT_EQ(readTree("/Applications"), before);
 }
 
