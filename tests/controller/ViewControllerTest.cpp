@@ -103,7 +103,8 @@ TEST(ViewController, DryRunChangesNothing)
     const auto before = readTree("/Applications");
     const TestWindow window({ "-uninstall" }, true);
     EXPECT_TRUE(window.text.isVisible() && runMainLoopUntil(window.isPaneOpen));
-    EXPECT_NE(readFile(logFile).find("d unmount /Volumes/quillbarn installer/"), std::string::npos);
+    EXPECT_NE(readFile(logFile).find("d unmount /Volumes/quillbarn installer/quillbarn.app\n"),
+        std::string::npos);
     window.button.setEnabled(false);
     runInBackground([&] { window.controller->uninstallBundle(); });
     const auto isCompleted = [] { return readFile(logFile).ends_with(" d completed\n"); };

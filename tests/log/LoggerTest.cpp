@@ -34,23 +34,25 @@ TEST(Logger, KeepsEntriesOfThreads)
 {
     const std::string path = "/tmp/entries";
     Logger logger(path);
-    const auto logOften = [&] {
+    const auto logOften = [](Logger& log) {
         for (int i = 0; i < 500; ++i)
-            logger.log("entry", Level::debug);
+            log.log("entry", Level::debug);
     };
-    std::thread first(logOften);
-    logOften();
+    Logger second(path); // like that of another process
+    std::thread first(logOften, std::ref(logger));
+    logOften(logger);
+    logOften(second);
     first.join();
     std::istringstream lines(readFile(path));
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count)
         EXPECT_TRUE(line.ends_with(" d entry") && line.size() < 50) << line;
-    EXPECT_EQ(count, 1000);
+    EXPECT_EQ(count, 1500);
 
-    std::thread late(logOften);
+    std::thread late(logOften, std::ref(logger));
     logger.close();
     const std::string content = readFile(path);
     late.join();
-    logOften();
+    logOften(logger);
     EXPECT_EQ(readFile(path), content);
 }

@@ -26,6 +26,7 @@ REFUSALS = (
      f"-o lowerdir=/tmp/lower,upperdir={SOURCE},workdir=/tmp/work", SAME.format(NEW, BUNDLE)),
     ("mkfifo other", SPECIAL), ("mknod other c 1 3", SPECIAL),
     ("ln -s . link", f"“{NEW}/link” could not be followed. The target “{NEW}/” is a folder that contains"),
+    ("for i in $(seq 20); do mkdir $i; ln -s ../$((i + 1)) $i/a; cp -P $i/a $i/b; done", "Too many symlinks"),
     ("mkdir sub; for i in $(seq 1001); do ln -s sub $i; done", "Too many symlinks"),
     (f"ln -s {300 * 'x'} link", f"“{NEW}/link” could not be examined. A name or a path is too long"),
     (EXFAT + "mkdir Res res; touch Res/a res/b", "The volume does not distinguish this name from"),

@@ -34,8 +34,9 @@ class Translations(unittest.TestCase):
         entry, metainfo, manual, readme, modes = ((SOURCES / path).read_text() for path in (
             "share/quillbarninstaller.desktop", "share/org.example.quillbarn.installer.metainfo.xml.in",
             "share/quillbarninstaller.1.in", "README.md", "controller/Modes.cpp"))
-        for text, pattern, count in (entry, r"^\w+\[(\w+)\]=", 2), (metainfo, r'xml:lang="(\w+)"', 4):
-            self.assertEqual(re.findall(pattern, text, re.MULTILINE), languages * count)
+        for text, pattern, keys in (entry, r"^(\w+)\[(\w+)\]=", ["Name", "Comment"]), (
+                metainfo, r'<(\w+) xml:lang="(\w+)">', ["name", "summary", "p", "p"]):
+            self.assertEqual(re.findall(pattern, text, re.MULTILINE), [(key, each) for key in keys for each in languages])
         for text in readme, manual.replace("\\", ""):
             names = re.search(r"(Arabic[\w\s(),]+\sor\s+\w+)", text)[1]
             self.assertEqual(len(re.split(r",\s+|\s+or\s+", names)), len(languages), names)
